@@ -1,0 +1,87 @@
+#include "Startup.h"
+
+#include "LogCategories.h"
+#include "UiProc.h"
+#include "UiprocImageShow.h"
+#include "UiprocMain_Desktop.h"
+#include "UiprocPublic.h"
+#include "UiprocVideo_Desktop.h"
+#include "UiproGetAudioShareData.h"
+#include "UiproGetImageShareData.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QTimer>
+
+#include <pthread.h>
+#include <sched.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace Startup {
+
+void pinCurrentThread(int cpu)
+{
+    (void)syscall(SYS_gettid);
+    cpu_set_t set;
+    CPU_ZERO(&set);
+    CPU_SET(cpu, &set);
+    // A board or desktop without that core simply keeps the old mask.
+    (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}
+
+void registerQmlTypes()
+{
+    qmlRegisterType<UiProc>("xpose.UiProc", 1, 0, "UiProcType");
+    qmlRegisterType<UiprocImageShow>("xpose.UiprocImageShow", 1, 0, "UiprocImageShow_Desktop");
+    qmlRegisterType<UiproGetImageShareData>("xpose.UiproGetImageShareData", 1, 0, "UiproGetImageShareData_Desktop");
+    qmlRegisterType<UiprocVideo_Desktop>("xpose.UiproVideoDesktop", 1, 0, "UiproVideo_Desktop");
+    qmlRegisterType<UiprocMain_Desktop>("xpose.UiprocMain_Desktop", 1, 0, "UiproMain_Desktop");
+    qmlRegisterType<UiprocPublic>("cs.UiprocPublic", 1, 0, "UiprocPublic_Desktop");
+    qmlRegisterType<UiproGetAudioShareData>("xpose.UiproGetAudioShareData", 1, 0, "UiproGetAudioShareData_Desktop");
+    // Registered as their classes land: UiproRecord_Desktop, UiproVersion_Desktop,
+    // UiproRtmp_Desktop, UiproBluetooth_Desktop, UiprocNetwork.
+}
+
+bool isWatchStart(const QStringList &arguments)
+{
+    return arguments.size() > 1 && arguments.at(1).contains(QLatin1String("watch"));
+}
+
+QUrl mainDocument()
+{
+    const QString override = qEnvironmentVariable("CS_MAIN_QML");
+    if (!override.isEmpty())
+        return QUrl::fromLocalFile(QFileInfo(override).absoluteFilePath());
+    return QUrl(QStringLiteral("qrc:/main.qml"));
+}
+
+void scheduleDevelopmentHooks(QObject *root)
+{
+    const QString shot = qEnvironmentVariable("CS_SCREENSHOT");
+    if (!shot.isEmpty()) {
+        bool ok = false;
+        int after = qEnvironmentVariableIntValue("CS_SCREENSHOT_AFTER_MS", &ok);
+        if (!ok)
+            after = 5000;
+        QTimer::singleShot(after, root, [root, shot] {
+            QQuickWindow *window = qobject_cast<QQuickWindow *>(root);
+            if (!window)
+                window = root->findChild<QQuickWindow *>();
+            if (!window) {
+                qCWarning(lcApp) << "screenshot: no window";
+                return;
+            }
+            const bool saved = window->grabWindow().save(shot);
+            qCInfo(lcApp).noquote() << "screenshot" << shot << (saved ? "saved" : "NOT saved");
+        });
+    }
+    bool ok = false;
+    const int quitAfter = qEnvironmentVariableIntValue("CS_QUIT_AFTER_MS", &ok);
+    if (ok && quitAfter > 0)
+        QTimer::singleShot(quitAfter, QCoreApplication::instance(), &QCoreApplication::quit);
+}
+
+} // namespace Startup

@@ -1,0 +1,28 @@
+#pragma once
+// Pieces of the start-up sequence that tests drive without a main().
+#include <QStringList>
+#include <QUrl>
+
+class QObject;
+class QQmlEngine;
+
+namespace Startup {
+
+// Pins the calling thread to one processor core (threads started later inherit it).
+void pinCurrentThread(int cpu);
+
+// Registers every QML-facing class under its import URI, version 1.0.
+void registerQmlTypes();
+
+// True when the first argument after the program name contains "watch" (case-sensitive).
+bool isWatchStart(const QStringList &arguments);
+
+// "qrc:/main.qml", or the file named by CS_MAIN_QML (development only).
+QUrl mainDocument();
+
+// Optional screenshot for unattended desktop runs: with CS_SCREENSHOT=<file>
+// the first window is saved after CS_SCREENSHOT_AFTER_MS (default 5000) ms;
+// with CS_QUIT_AFTER_MS the application quits after that many ms.
+void scheduleDevelopmentHooks(QObject *root);
+
+} // namespace Startup

@@ -1,0 +1,34 @@
+#include "UiProc.h"
+
+#include "Logger.h"
+#include "Shell.h"
+#include "SettingsStore.h"
+
+void UiProc::isExistConfig() { SettingsStore::importFromUserdata(); }
+
+void UiProc::readInitConfig() { SettingsStore::read(m_iniData); }
+
+QJsonObject UiProc::getIniData() { return m_iniData; }
+
+void UiProc::writeInitConfig(QJsonObject data)
+{
+    // Writes before the screens declare start-up finished are dropped, not queued.
+    if (!m_initFinished)
+        return;
+    SettingsStore::write(data);
+    Shell::system(QStringLiteral("sync"));
+}
+
+void UiProc::initFinished() { m_initFinished = true; }
+
+void UiProc::setFirstInfo(bool first) { SettingsStore::setFirst(first); }
+
+bool UiProc::getIsFirst() { return SettingsStore::isFirst(); }
+
+void UiProc::setObsPath(QString path) { SettingsStore::setObsPath(path); }
+
+QString UiProc::getObsPath() { return SettingsStore::obsPath(); }
+
+void UiProc::writeLog(QString log) { Logger::instance().write(log); }
+
+void UiProc::writeDailyLog(const QString &text) { Logger::writeDaily(text); }

@@ -1,0 +1,147 @@
+#include "Shell.h"
+
+#include "LogCategories.h"
+#include "Platform.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <atomic>
+#include <cerrno>
+#include <fcntl.h>
+#include <spawn.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+// Spawns /bin/sh -c line with the child environment. posix_spawn keeps this
+// safe to call from any thread of a multi-threaded process.
+int spawnShell(const QString &line, QByteArray *out)
+{
+    const QProcessEnvironment env = Platform::childEnvironment();
+    std::vector<std::string> envStrings;
+    for (const QString &key : env.keys())
+        envStrings.push_back((key + QLatin1Char('=') + env.value(key)).toStdString());
+    std::vector<char *> envp;
+    for (std::string &s : envStrings)
+        envp.push_back(s.data());
+    envp.push_back(nullptr);
+
+    std::string cmd = line.toLocal8Bit().toStdString();
+    char sh[] = "sh";
+    char dashC[] = "-c";
+    char *argv[] = {sh, dashC, cmd.data(), nullptr};
+
+    int fds[2] = {-1, -1};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    if (out) {
+        if (pipe2(fds, O_CLOEXEC) != 0) {
+            posix_spawn_file_actions_destroy(&actions);
+            return -1;
+        }
+        posix_spawn_file_actions_adddup2(&actions, fds[1], STDOUT_FILENO);
+    }
+    pid_t pid = -1;
+    const int rc = posix_spawn(&pid, "/bin/sh", &actions, nullptr, argv, envp.data());
+    posix_spawn_file_actions_destroy(&actions);
+    if (out)
+        ::close(fds[1]);
+    if (rc != 0) {
+        if (out)
+            ::close(fds[0]);
+        qCWarning(lcShell).noquote() << "cannot start /bin/sh for:" << line;
+        return -1;
+    }
+    if (out) {
+        char buf[4096];
+        for (;;) {
+            const ssize_t n = ::read(fds[0], buf, sizeof buf);
+            if (n > 0)
+                out->append(buf, int(n));
+            else if (n < 0 && errno == EINTR)
+                continue;
+            else
+                break;
+        }
+        ::close(fds[0]);
+    }
+    int status = 0;
+    while (::waitpid(pid, &status, 0) < 0) {
+        if (errno != EINTR)
+            return -1;
+    }
+    return status;
+}
+
+SystemShellRunner g_systemRunner;
+std::atomic<ShellRunner *> g_runner{nullptr};
+
+} // namespace
+
+int SystemShellRunner::system(const QString &line)
+{
+    qCDebug(lcShell).noquote() << "sh:" << line;
+    return spawnShell(line, nullptr);
+}
+
+QByteArray SystemShellRunner::output(const QString &line)
+{
+    qCDebug(lcShell).noquote() << "sh (read):" << line;
+    QByteArray out;
+    spawnShell(line, &out);
+    return out;
+}
+
+QByteArray SystemShellRunner::process(const QString &program, const QStringList &args, int timeoutMs)
+{
+    qCDebug(lcShell).noquote() << "process:" << program << args.join(QLatin1Char(' '));
+    QString exe = program;
+    if (!program.contains(QLatin1Char('/'))) {
+        // Look the program up where the child would, never in the host's PATH under a sysroot.
+        exe = QStandardPaths::findExecutable(program, Platform::programDirs());
+        if (exe.isEmpty()) {
+            qCWarning(lcShell).noquote() << "program not found:" << program;
+            return {};
+        }
+    } else {
+        exe = Platform::path(program);
+    }
+    QProcess proc;
+    proc.setProcessEnvironment(Platform::childEnvironment());
+    proc.start(exe, args, QIODevice::ReadOnly);
+    if (!proc.waitForStarted(timeoutMs))
+        return {};
+    QElapsedTimer timer;
+    timer.start();
+    proc.waitForFinished(timeoutMs);
+    QByteArray out = proc.readAllStandardOutput();
+    if (proc.state() != QProcess::NotRunning) {
+        proc.kill();
+        proc.waitForFinished(1000);
+    }
+    return out;
+}
+
+namespace Shell {
+
+ShellRunner &runner()
+{
+    ShellRunner *r = g_runner.load();
+    return r ? *r : g_systemRunner;
+}
+
+void setRunner(ShellRunner *r) { g_runner.store(r); }
+
+int system(const QString &line) { return runner().system(line); }
+QByteArray output(const QString &line) { return runner().output(line); }
+QByteArray process(const QString &program, const QStringList &args, int timeoutMs)
+{
+    return runner().process(program, args, timeoutMs);
+}
+
+} // namespace Shell

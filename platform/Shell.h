@@ -1,0 +1,42 @@
+#pragma once
+// The three ways the product runs system commands. Everything that starts
+// a program goes through here, so a sysroot run confines it and a test can
+// swap in a recording runner to assert the exact command texts.
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class ShellRunner
+{
+public:
+    virtual ~ShellRunner() = default;
+    // A command line run through /bin/sh, like system(): the wait status, or -1 when it could not run.
+    virtual int system(const QString &line) = 0;
+    // The same, with its standard output read back, like popen().
+    virtual QByteArray output(const QString &line) = 0;
+    // A program run directly (no shell), waiting at most timeoutMs for it to
+    // finish; whatever it printed by then is returned.
+    virtual QByteArray process(const QString &program, const QStringList &args, int timeoutMs) = 0;
+};
+
+// Runs commands for real, in Platform::childEnvironment().
+class SystemShellRunner : public ShellRunner
+{
+public:
+    int system(const QString &line) override;
+    QByteArray output(const QString &line) override;
+    QByteArray process(const QString &program, const QStringList &args, int timeoutMs) override;
+};
+
+namespace Shell {
+constexpr int kProcessTimeoutMs = 30000;
+
+int system(const QString &line);
+QByteArray output(const QString &line);
+QByteArray process(const QString &program, const QStringList &args, int timeoutMs = kProcessTimeoutMs);
+
+// Replaces the runner for the whole process (tests); nullptr restores the real one.
+// The caller keeps ownership and must outlive every use.
+void setRunner(ShellRunner *runner);
+ShellRunner &runner();
+} // namespace Shell

@@ -1,0 +1,8 @@
+#include "UiproGetAudioShareData.h"
+
+UiproGetAudioShareData::UiproGetAudioShareData(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void UiproGetAudioShareData::getShareAudioData() {}
