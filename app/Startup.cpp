@@ -61,7 +61,7 @@ QUrl mainDocument()
 void scheduleDevelopmentHooks(QObject *root)
 {
     const QString shot = qEnvironmentVariable("CS_SCREENSHOT");
-    if (!shot.isEmpty()) {
+    if (!shot.isEmpty() && root) {
         bool ok = false;
         int after = qEnvironmentVariableIntValue("CS_SCREENSHOT_AFTER_MS", &ok);
         if (!ok)

@@ -22,7 +22,7 @@ QUrl mainDocument();
 
 // Optional screenshot for unattended desktop runs: with CS_SCREENSHOT=<file>
 // the first window is saved after CS_SCREENSHOT_AFTER_MS (default 5000) ms;
-// with CS_QUIT_AFTER_MS the application quits after that many ms.
+// with CS_QUIT_AFTER_MS the application quits after that many ms (root may be null).
 void scheduleDevelopmentHooks(QObject *root);
 
 } // namespace Startup

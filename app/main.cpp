@@ -36,8 +36,7 @@ int main(int argc, char *argv[])
     QQmlComponent component(&engine, Startup::mainDocument());
     QObject *root = component.create();
     qDebug() << "---errors = " << component.errors();
-    if (root)
-        Startup::scheduleDevelopmentHooks(root);
+    Startup::scheduleDevelopmentHooks(root);
 
     return app.exec();
 }

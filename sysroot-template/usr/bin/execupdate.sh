@@ -1,0 +1,1 @@
+../libexec/cs-standin
