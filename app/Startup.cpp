@@ -14,6 +14,10 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QTimer>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <cstdio>
 
 #include <pthread.h>
 #include <sched.h>
@@ -58,8 +62,43 @@ QUrl mainDocument()
     return QUrl(QStringLiteral("qrc:/main.qml"));
 }
 
+namespace {
+QElapsedTimer g_sinceStart;
+
+// Peak resident set size of this process, in kB (0 when unknown).
+long peakRssKb()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).trimmed().split(' ').value(0).toLong();
+    }
+    return 0;
+}
+} // namespace
+
+void markProcessStart()
+{
+    g_sinceStart.start();
+}
+
 void scheduleDevelopmentHooks(QObject *root)
 {
+    if (qEnvironmentVariableIsSet("CS_EXIT_AFTER_FIRST_FRAME") && root) {
+        if (auto *window = qobject_cast<QQuickWindow *>(root)) {
+            QObject::connect(window, &QQuickWindow::frameSwapped, window, [] {
+                static bool reported = false;
+                if (reported)
+                    return;
+                reported = true;
+                std::printf("first-frame-ms=%lld peak-rss-kb=%ld\n", g_sinceStart.elapsed(), peakRssKb());
+                std::fflush(stdout);
+                QCoreApplication::quit();
+            }, Qt::QueuedConnection);
+        }
+    }
     const QString shot = qEnvironmentVariable("CS_SCREENSHOT");
     if (!shot.isEmpty() && root) {
         bool ok = false;

@@ -23,6 +23,11 @@ QUrl mainDocument();
 // Optional screenshot for unattended desktop runs: with CS_SCREENSHOT=<file>
 // the first window is saved after CS_SCREENSHOT_AFTER_MS (default 5000) ms;
 // with CS_QUIT_AFTER_MS the application quits after that many ms (root may be null).
+// with CS_EXIT_AFTER_FIRST_FRAME the time from markProcessStart() to the first
+// frame and the peak RSS are printed, then the application quits (benchmarks).
 void scheduleDevelopmentHooks(QObject *root);
+
+// Starts the clock the first-frame report measures from.
+void markProcessStart();
 
 } // namespace Startup

@@ -15,6 +15,7 @@
 
 int main(int argc, char *argv[])
 {
+    Startup::markProcessStart();
     Startup::pinCurrentThread(2);
     QApplication app(argc, argv);
 

@@ -1,0 +1,52 @@
+import QtQuick 2.15
+import "../Public"
+
+// A large touch target with an optional tally colour and state word.
+Rectangle {
+    id: button
+    property string label
+    property string detail
+    property color tally: "transparent"   // Style.onAir / Style.onPip / transparent
+    property bool checked: false
+    property bool enabledState: true
+    signal clicked()
+
+    implicitWidth: Style.touch * 2
+    implicitHeight: Style.touch
+    radius: Style.radius
+    color: !enabledState ? Style.surface : area.pressed ? Style.surfaceRaised : (checked ? Qt.darker(Style.accent, 1.8) : Style.surfaceRaised)
+    border.width: tally !== Qt.color("transparent") ? Style.frame : 2
+    border.color: tally !== Qt.color("transparent") ? tally : (checked ? Style.accent : Style.outline)
+    opacity: enabledState ? 1 : 0.45
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Style.gap
+        spacing: 4
+        Text {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: button.label
+            color: Style.text
+            font.pixelSize: Style.fontNormal
+            font.bold: true
+            elide: Text.ElideRight
+        }
+        Text {
+            width: parent.width
+            visible: button.detail.length > 0
+            horizontalAlignment: Text.AlignHCenter
+            text: button.detail
+            color: Style.textDim
+            font.pixelSize: Style.fontSmall
+            elide: Text.ElideRight
+        }
+    }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        enabled: button.enabledState
+        onClicked: button.clicked()
+    }
+}

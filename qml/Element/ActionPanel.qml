@@ -1,0 +1,47 @@
+import QtQuick 2.15
+import "../Public"
+import "../CONTROLS"
+
+// The live actions, each showing its state.
+Column {
+    id: panel
+    property bool recording: false
+    property string recordTime: ""
+    property bool streaming: false
+    property int liveChannels: 0
+    property bool pipOn: false
+    signal recordRequested()
+    signal stopRecordRequested()
+    signal pipToggled(bool on)
+
+    spacing: Style.gap
+
+    TouchButton {
+        objectName: "streamState"
+        width: panel.width
+        height: Style.touch * 1.3
+        label: panel.streaming ? qsTr("ON AIR") : qsTr("Stream off")
+        detail: panel.streaming ? qsTr("%n channel(s) live", "", panel.liveChannels) : qsTr("No channel live")
+        tally: panel.streaming ? Style.onAir : "transparent"
+        enabledState: false
+    }
+    TouchButton {
+        objectName: "recordButton"
+        width: panel.width
+        height: Style.touch * 1.3
+        label: panel.recording ? qsTr("Stop recording") : qsTr("Record")
+        detail: panel.recording ? panel.recordTime : qsTr("Not recording")
+        tally: panel.recording ? Style.onAir : "transparent"
+        onClicked: panel.recording ? panel.stopRecordRequested() : panel.recordRequested()
+    }
+    TouchButton {
+        objectName: "pipButton"
+        width: panel.width
+        height: Style.touch * 1.3
+        label: qsTr("Picture in picture")
+        detail: panel.pipOn ? qsTr("On") : qsTr("Off")
+        checked: panel.pipOn
+        tally: panel.pipOn ? Style.onPip : "transparent"
+        onClicked: panel.pipToggled(!panel.pipOn)
+    }
+}

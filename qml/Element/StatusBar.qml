@@ -1,0 +1,62 @@
+import QtQuick 2.15
+import "../Public"
+import "../CONTROLS"
+
+// The thin status line: streaming per channel, recording, USB disk, address, clock and the link mark.
+Rectangle {
+    id: bar
+    property var streams: [0, 0, 0, 0]
+    property bool recording: false
+    property string recordTime: ""
+    property int usbDisk: -1
+    property string ipAddress: ""
+    property bool linkAlive: false
+    property string clock: ""
+
+    height: Style.statusHeight
+    color: Style.surface
+
+    Row {
+        anchors { left: parent.left; leftMargin: Style.gap; verticalCenter: parent.verticalCenter }
+        spacing: Style.gap * 2
+
+        Repeater {
+            model: 4
+            StatusChip {
+                objectName: "streamChip" + index
+                text: qsTr("CH%1").arg(index + 1) + " " + (bar.streams[index] ? qsTr("live") : qsTr("off"))
+                mark: bar.streams[index] ? Style.onAir : Style.off
+            }
+        }
+        StatusChip {
+            objectName: "recordChip"
+            text: bar.recording ? qsTr("REC %1").arg(bar.recordTime) : qsTr("REC off")
+            mark: bar.recording ? Style.onAir : Style.off
+        }
+        StatusChip {
+            objectName: "usbChip"
+            text: bar.usbDisk > 0 ? qsTr("USB disk") : bar.usbDisk === 0 ? qsTr("No USB disk") : qsTr("USB disk ?")
+            mark: bar.usbDisk > 0 ? Style.onPip : bar.usbDisk === 0 ? Style.attention : Style.off
+        }
+        StatusChip {
+            objectName: "ipChip"
+            text: bar.ipAddress.length > 0 ? bar.ipAddress : qsTr("No address")
+            mark: bar.ipAddress.length > 0 ? Style.onPip : Style.off
+        }
+    }
+    Row {
+        anchors { right: parent.right; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
+        spacing: Style.gap * 2
+        StatusChip {
+            objectName: "linkChip"
+            text: bar.linkAlive ? qsTr("Media service") : qsTr("Media service silent")
+            mark: bar.linkAlive ? Style.onPip : Style.attention
+        }
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            text: bar.clock
+            color: Style.text
+            font.pixelSize: Style.fontNormal
+        }
+    }
+}
