@@ -33,6 +33,6 @@ Item {
         anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter }
         text: meter.label
         color: Style.textDim
-        font.pixelSize: Style.fontSmall - 4
+        font.pixelSize: Style.fontTiny
     }
 }

@@ -9,14 +9,16 @@ Rectangle {
     property color tally: "transparent"   // Style.onAir / Style.onPip / transparent
     property bool checked: false
     property bool enabledState: true
+    // A read-only state display: looks live, takes no touch.
+    property bool interactive: true
     signal clicked()
 
     implicitWidth: Style.touch * 2
     implicitHeight: Style.touch
     radius: Style.radius
     color: !enabledState ? Style.surface : area.pressed ? Style.surfaceRaised : (checked ? Qt.darker(Style.accent, 1.8) : Style.surfaceRaised)
-    border.width: tally !== Qt.color("transparent") ? Style.frame : 2
-    border.color: tally !== Qt.color("transparent") ? tally : (checked ? Style.accent : Style.outline)
+    border.width: tally.a > 0 ? Style.frame : 2
+    border.color: tally.a > 0 ? tally : (checked ? Style.accent : Style.outline)
     opacity: enabledState ? 1 : 0.45
 
     Column {
@@ -46,7 +48,7 @@ Rectangle {
     MouseArea {
         id: area
         anchors.fill: parent
-        enabled: button.enabledState
+        enabled: button.enabledState && button.interactive
         onClicked: button.clicked()
     }
 }

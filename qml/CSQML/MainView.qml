@@ -45,9 +45,9 @@ Rectangle {
 
         // Landscape: preview and meters on the left two thirds, actions on the right, inputs below.
         // Portrait: everything stacked.
-        readonly property real actionsWidth: view.portrait ? width : 440
-        readonly property real inputsHeight: Style.touch * 2.2
-        readonly property real metersWidth: view.portrait ? width : 230
+        readonly property real actionsWidth: view.portrait ? width : 380
+        readonly property real metersWidth: view.portrait ? width : 9 * 52
+        readonly property real inputsHeight: view.portrait ? Style.touch * 2.2 : height - previewPanel.height - Style.gap
 
         PreviewPanel {
             id: previewPanel
@@ -55,7 +55,7 @@ Rectangle {
             x: 0; y: 0
             width: view.portrait ? body.width
                                  : Math.min(body.width - body.actionsWidth - body.metersWidth - 2 * Style.gap,
-                                            (body.height - body.inputsHeight - Style.gap) * 16 / 9)
+                                            (body.height - Style.touch * 2.2 - Style.gap) * 16 / 9)
             height: width * 9 / 16
             onAir: view.store.onAir
             pipOn: view.store.pipOn

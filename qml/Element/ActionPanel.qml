@@ -23,7 +23,7 @@ Column {
         label: panel.streaming ? qsTr("ON AIR") : qsTr("Stream off")
         detail: panel.streaming ? qsTr("%n channel(s) live", "", panel.liveChannels) : qsTr("No channel live")
         tally: panel.streaming ? Style.onAir : "transparent"
-        enabledState: false
+        interactive: false
     }
     TouchButton {
         objectName: "recordButton"

@@ -23,6 +23,7 @@ QtObject {
     readonly property int frame: 6
     readonly property int statusHeight: 64
 
+    readonly property int fontTiny: 16
     readonly property int fontSmall: 22
     readonly property int fontNormal: 28
     readonly property int fontLarge: 36

@@ -1,0 +1,103 @@
+import QtQuick 2.15
+import QtTest 1.2
+import "qrc:/CSQML"
+import "qrc:/CONTROLS"
+import "qrc:/Public"
+
+Item {
+    width: 1920
+    height: 1080
+
+    FakeStore { id: fake }
+    MainView { id: view; store: fake; anchors.fill: parent }
+
+TestCase {
+    name: "MainView"
+    when: windowShown
+
+    function init() {
+        fake.calls = []
+        fake.programmeInput = 0
+        fake.pipInput = 2
+        fake.pipOn = false
+        fake.recording = false
+        fake.linkAlive = true
+        findChild(view, "confirmDialog").visible = false
+    }
+
+    function test_inputTilePutsInputOnProgramme_data() {
+        return [{ tag: "HDMI 1", index: 0 }, { tag: "HDMI 2", index: 1 }, { tag: "camera 2", index: 3 }]
+    }
+    function test_inputTilePutsInputOnProgramme(data) {
+        mouseClick(findChild(view, "input" + data.index))
+        compare(fake.calls, ["programme " + data.index])
+    }
+
+    function test_tallyColours() {
+        fake.pipOn = true
+        compare(findChild(view, "input0").tally, Style.onAir)
+        compare(findChild(view, "input2").tally, Style.onPip)
+        compare(findChild(view, "input1").detail, qsTr("No signal"))
+        compare(findChild(view, "input0").detail, qsTr("PROGRAMME"))
+        fake.pipOn = false
+        compare(findChild(view, "input2").tally.a, 0)
+    }
+
+    function test_pipSourceOnlyWhilePipIsOn() {
+        mouseClick(findChild(view, "pipSource3"))
+        compare(fake.calls, [])
+        fake.pipOn = true
+        mouseClick(findChild(view, "pipSource3"))
+        mouseClick(findChild(view, "pipSource0")) // on programme: refused
+        compare(fake.calls, ["pip 3"])
+        mouseClick(findChild(view, "pipButton"))
+        compare(fake.calls, ["pip 3", "setPip false"])
+    }
+
+    function test_recordStartsAtOnceButStopAsksFirst() {
+        mouseClick(findChild(view, "recordButton"))
+        compare(fake.calls, ["startRecording"])
+        fake.recording = true
+        fake.calls = []
+        mouseClick(findChild(view, "recordButton"))
+        compare(fake.calls, [])
+        var dialog = findChild(view, "confirmDialog")
+        verify(dialog.visible)
+        mouseClick(findChild(view, "confirmCancel"))
+        verify(!dialog.visible)
+        compare(fake.calls, [])
+        mouseClick(findChild(view, "recordButton"))
+        mouseClick(findChild(view, "confirmAction"))
+        compare(fake.calls, ["stopRecording"])
+    }
+
+    function test_statusLine() {
+        compare(findChild(view, "streamChip0").mark, Style.onAir)
+        compare(findChild(view, "streamChip1").mark, Style.off)
+        compare(findChild(view, "ipChip").text, "192.168.0.100")
+        compare(findChild(view, "linkChip").mark, Style.onPip)
+        fake.linkAlive = false
+        compare(findChild(view, "linkChip").text, qsTr("Media service silent"))
+        compare(findChild(view, "linkChip").mark, Style.attention)
+    }
+
+    function test_tallyFrameRedWhenOnAir() {
+        var panel = findChild(view, "previewPanel")
+        compare(panel.border.color, Style.onAir) // streaming on channel 1
+        fake.streams = [0, 0, 0, 0]
+        compare(panel.border.color, Style.outline)
+        fake.recording = true
+        compare(panel.border.color, Style.onAir)
+        fake.streams = [1, 0, 0, 0]
+    }
+
+    function test_metersClampTo40And80_data() {
+        return [{ tag: "below", index: 0, shown: 0 }, { tag: "low edge", index: 1, shown: 0.125 },
+                { tag: "middle", index: 2, shown: 0.5 }, { tag: "upper", index: 5, shown: 0.975 },
+                { tag: "above", index: 7, shown: 1 }, { tag: "zero", index: 8, shown: 0 }]
+    }
+    function test_metersClampTo40And80(data) {
+        fuzzyCompare(findChild(view, "meter" + data.index).shown, data.shown, 0.0001)
+    }
+}
+}

@@ -1,0 +1,3 @@
+// Runs the QML view tests (tst_*.qml in this folder) against the compiled-in documents.
+#include <QtQuickTest>
+QUICK_TEST_MAIN(qml)
