@@ -1,9 +1,543 @@
 #include "UiproGetImageShareData.h"
 
+#include "LogCategories.h"
+#include "PreviewConvert.h"
+#include "PreviewReaderHooks.h"
+#include "UiprocImageShow.h"
+
+#include <QImage>
+#include <QtEndian>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include <sched.h>
+#include <sys/ipc.h>
+#include <sys/sem.h>
+#include <sys/shm.h>
+#include <unistd.h>
+
+namespace {
+
+int envKey(const char *name, int fallback)
+{
+    const char *text = std::getenv(name);
+    if (!text || !*text)
+        return fallback;
+    char *end = nullptr;
+    errno = 0;
+    const long value = std::strtol(text, &end, 0); // decimal or 0x-hex
+    if (errno != 0 || !end || *end != '\0' || value <= 0 || value > 0x7fffffffL) {
+        qCWarning(lcPreview).noquote() << "preview: ignoring" << name << "value" << QString::fromLocal8Bit(text).left(32);
+        return fallback;
+    }
+    return int(value);
+}
+
+void out(const char *text)
+{
+    std::fputs(text, stdout);
+    std::fflush(stdout);
+}
+
+void outErr(const char *format)
+{
+    std::printf(format, std::strerror(errno));
+    std::fflush(stdout);
+}
+
+qint64 nowNs(clockid_t clock)
+{
+    timespec ts{};
+    clock_gettime(clock, &ts);
+    return qint64(ts.tv_sec) * 1000000000LL + ts.tv_nsec;
+}
+
+constexpr int kBackoffMs = 200;
+constexpr int kWaitSliceMs = 200;
+constexpr int kPoolMax = 6;
+constexpr int kReaderCpu = 4;
+
+} // namespace
+
+namespace PreviewReaderHooks {
+std::atomic<FrameHook *> g_hook{nullptr};
+void setFrameHook(FrameHook *hook) { g_hook.store(hook); }
+} // namespace PreviewReaderHooks
+
+// Shared by the object and its reader thread, so the thread never touches a
+// destroyed object.
+struct UiproGetImageShareData::ReaderState
+{
+    const uint8_t *segment = nullptr;
+    int semKey = 0;
+    std::atomic<int> semId{-1};
+    std::atomic<bool> stop{false};
+    std::atomic<bool> running{false};
+    std::atomic<quint64> refused{0};
+
+    // A private copy of the frame, allocated once: the segment is released
+    // as soon as this copy is made.
+    std::vector<uint8_t> staging;
+    // Display images, reused once nobody else holds them: a fresh 8 MB block
+    // per frame costs page faults on every frame.
+    std::vector<QImage> pool;
+
+    qint64 lastRefusalLogMs = 0;
+    quint64 refusalsSinceLog = 0;
+
+    QImage acquire(int width, int height);
+    bool waitReady();
+    void release();
+    void refuse(const char *why, quint32 width, quint32 height);
+    int reopenSet();
+    void run();
+};
+
+QImage UiproGetImageShareData::ReaderState::acquire(int width, int height)
+{
+    for (QImage &img : pool) {
+        if (img.width() == width && img.height() == height && img.isDetached())
+            return img;
+    }
+    QImage fresh(width, height, QImage::Format_RGB32);
+    if (fresh.isNull())
+        return fresh;
+    if (int(pool.size()) < kPoolMax) {
+        pool.push_back(fresh);
+        return fresh;
+    }
+    for (QImage &img : pool) {
+        if (img.isDetached()) { // size changed: replace an idle one
+            img = fresh;
+            return fresh;
+        }
+    }
+    return fresh; // everything in use: a one-off image
+}
+
+// Blocks until a frame is ready. False on timeout, on stop, or while the
+// semaphore set is gone (then it has backed off before returning).
+bool UiproGetImageShareData::ReaderState::waitReady()
+{
+    const int id = semId.load();
+    if (id < 0) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(kBackoffMs));
+        const int again = reopenSet();
+        if (again >= 0) {
+            semId.store(again);
+            qCInfo(lcPreview).noquote() << "preview: frame semaphores available again, reading resumes";
+        }
+        return false;
+    }
+    sembuf op{1, -1, 0};
+    const timespec slice{0, kWaitSliceMs * 1000000L};
+    if (semtimedop(id, &op, 1, &slice) == 0)
+        return true;
+    const int err = errno;
+    if (err == EAGAIN || err == EINTR)
+        return false;
+    std::printf("semop error: %s. \n", std::strerror(err));
+    std::fflush(stdout);
+    if (err == EIDRM || err == EINVAL) {
+        // The producer restarted or the set was removed: do not spin on a
+        // dead id, wait for a set to exist again.
+        qCWarning(lcPreview).noquote() << "preview: frame semaphores gone (" << std::strerror(err)
+                                       << "), waiting for the producer";
+        semId.store(-1);
+    } else {
+        std::this_thread::sleep_for(std::chrono::milliseconds(kBackoffMs));
+    }
+    return false;
+}
+
+// Opens the set again after it disappeared. Values are set only on a set
+// that nobody has operated on yet and whose buffer token was never issued
+// (both zero); a set the producer already uses keeps its values, since the
+// producer may be writing a frame right now (both zero then as well).
+int UiproGetImageShareData::ReaderState::reopenSet()
+{
+    int id = semget(semKey, 2, IPC_CREAT | IPC_EXCL | 0600);
+    if (id >= 0) {
+        semctl(id, 0, SETVAL, 1);
+        semctl(id, 1, SETVAL, 0);
+        return id;
+    }
+    if (errno != EEXIST)
+        return -1;
+    id = semget(semKey, 2, 0600);
+    if (id < 0)
+        return -1;
+    semid_ds ds{};
+    if (semctl(id, 0, IPC_STAT, &ds) == 0 && ds.sem_otime == 0 && semctl(id, 0, GETVAL) == 0
+        && semctl(id, 1, GETVAL) == 0)
+        semctl(id, 0, SETVAL, 1);
+    return id;
+}
+
+void UiproGetImageShareData::ReaderState::release()
+{
+    sembuf op{0, 1, 0};
+    if (semop(semId.load(), &op, 1) != 0) {
+        std::printf("semop error: %s. \n", std::strerror(errno));
+        std::fflush(stdout);
+    }
+}
+
+void UiproGetImageShareData::ReaderState::refuse(const char *why, quint32 width, quint32 height)
+{
+    refused.fetch_add(1);
+    ++refusalsSinceLog;
+    const qint64 now = nowNs(CLOCK_MONOTONIC) / 1000000;
+    if (lastRefusalLogMs == 0 || now - lastRefusalLogMs >= 1000) {
+        qCWarning(lcPreview).noquote()
+            << QStringLiteral("preview: refused frame %1x%2 (%3), %4 refused since last report")
+                   .arg(width)
+                   .arg(height)
+                   .arg(QLatin1String(why))
+                   .arg(refusalsSinceLog);
+        lastRefusalLogMs = now;
+        refusalsSinceLog = 0;
+    }
+}
+
+void UiproGetImageShareData::ReaderState::run()
+{
+    std::printf("%s pid:%d, tid:%lu\r\n", "tdGetShareImageData", int(getpid()),
+                static_cast<unsigned long>(pthread_self()));
+    std::fflush(stdout);
+    {
+        cpu_set_t set;
+        CPU_ZERO(&set);
+        CPU_SET(kReaderCpu, &set);
+        // A machine without that core keeps the old mask.
+        (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+    }
+    staging.assign(kPixelArea + 64, 0); // slack for vector loads past the last pixel
+
+    while (!stop.load()) {
+        if (!waitReady())
+            continue;
+        const qint64 cpuStart = nowNs(CLOCK_THREAD_CPUTIME_ID);
+        quint32 w = 0, h = 0;
+        std::memcpy(&w, segment, 4);
+        std::memcpy(&h, segment + 4, 4);
+        w = qFromLittleEndian(w);
+        h = qFromLittleEndian(h);
+        const quint64 n = quint64(w) * quint64(h) * 3u;
+        if (w == 0 || h == 0) {
+            release(); // a null frame: nothing to show
+            continue;
+        }
+        if (n > kPixelArea || w > 32767 || h > 32767) {
+            // Never read past the segment, whatever the header says.
+            release();
+            refuse("larger than the frame buffer", w, h);
+            continue;
+        }
+        std::memcpy(staging.data(), segment + kHeaderSize, size_t(n));
+        release();
+
+        QImage frame = acquire(int(w), int(h));
+        if (frame.isNull()) {
+            refuse("no memory for the image", w, h);
+            continue;
+        }
+        // Rows are packed (width * 3 bytes, any width); the display image has
+        // its own aligned stride.
+        PreviewConvert::rgb888ToRgb32(staging.data(), size_t(w) * 3u, frame.bits(),
+                                      size_t(frame.bytesPerLine()), int(w), int(h));
+        if (UiprocImageShow *show = UiprocImageShow::instance())
+            show->deliverFrame(frame);
+        if (PreviewReaderHooks::FrameHook *hook = PreviewReaderHooks::g_hook.load())
+            (*hook)(frame, nowNs(CLOCK_MONOTONIC), nowNs(CLOCK_THREAD_CPUTIME_ID) - cpuStart);
+    }
+    running.store(false);
+}
+
+int UiproGetImageShareData::shmKey() { return envKey("CS_PREVIEW_SHM_KEY", kDefaultShmKey); }
+int UiproGetImageShareData::semKey() { return envKey("CS_PREVIEW_SEM_KEY", kDefaultSemKey); }
+
 UiproGetImageShareData::UiproGetImageShareData(QObject *parent)
     : QObject(parent)
 {
+    attach(SingleBuffer);
 }
 
-void UiproGetImageShareData::getShareImageData() {}
+UiproGetImageShareData::~UiproGetImageShareData()
+{
+    for (auto &r : m_readers)
+        r->stop.store(true);
+    sleep(1);
+    // A reader checks its stop flag at least every wait slice; the segment
+    // must stay mapped until it has left the copy.
+    for (auto &r : m_readers) {
+        while (r->running.load())
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    detach(SingleBuffer);
+}
+
+void UiproGetImageShareData::attach(Mode mode)
+{
+    const key_t semK = semKey();
+    m_semId = semget(semK, 2, IPC_CREAT | IPC_EXCL | 0600);
+    if (m_semId < 0) {
+        outErr("==vorn semget exit: %s. \n");
+        m_semId = -1;
+        m_semId = semget(semK, 2, IPC_CREAT | 0600);
+        if (m_semId < 0) {
+            outErr("==vorn semget exit: %s. \n");
+            out("==vorn semget failed");
+            m_semId = -1;
+        }
+    }
+    // New or not, start from a free buffer and no frame: a frame-ready count
+    // left by an earlier run is discarded.
+    controlSem(m_semId, 0, SETVAL, 1);
+    controlSem(m_semId, 1, SETVAL, 0);
+
+    m_shmId = createShm(shmKey(), kSegmentSize, IPC_CREAT | 0666);
+    if (mode == SingleBuffer) {
+        errno = 0;
+        m_shmAddr = attachShm(m_shmId, nullptr, 0);
+        m_attachErrno = m_shmAddr ? 0 : (errno ? errno : EINVAL);
+    } else {
+        out("vorn select NULL");
+    }
+    m_shareImageFlag = false;
+}
+
+int UiproGetImageShareData::createSem(key_t key, int count, int flags)
+{
+    const int id = semget(key, count, flags);
+    if (id < 0) {
+        outErr("==vorn semget exit: %s. \n");
+        return -1;
+    }
+    return id;
+}
+
+int UiproGetImageShareData::controlSem(int semId, int semNum, int cmd, int value)
+{
+    const int r = semctl(semId, semNum, cmd, value);
+    if (r < 0) {
+        outErr("==vorn semctl error: %s. \n");
+        return -1;
+    }
+    return r;
+}
+
+int UiproGetImageShareData::createShm(key_t key, size_t size, int flags)
+{
+    const int id = shmget(key, size, flags);
+    if (id < 0) {
+        outErr("==vorn shmget error: %s. \n");
+        return -1;
+    }
+    return id;
+}
+
+void *UiproGetImageShareData::attachShm(int shmId, const void *addr, int flags)
+{
+    void *p = shmat(shmId, addr, flags);
+    if (p == reinterpret_cast<void *>(-1)) {
+        outErr("==vorn shmat error: %s. \n");
+        return nullptr;
+    }
+    return p;
+}
+
+int UiproGetImageShareData::controlShm(int shmId, int cmd, struct shmid_ds *buf)
+{
+    const int r = shmctl(shmId, cmd, buf);
+    if (r < 0) {
+        outErr("shmctl error: %s. \n");
+        return -1;
+    }
+    return r;
+}
+
+int UiproGetImageShareData::semOperations(int semId, struct sembuf *ops, size_t count)
+{
+    if (semop(semId, ops, count) < 0) {
+        outErr("semop error: %s. \n");
+        return -1;
+    }
+    return 0;
+}
+
+int UiproGetImageShareData::semWait(int semId, int semNum)
+{
+    sembuf op{static_cast<unsigned short>(semNum), -1, 0};
+    return semOperations(semId, &op, 1);
+}
+
+int UiproGetImageShareData::semPost(int semId, int semNum)
+{
+    sembuf op{static_cast<unsigned short>(semNum), 1, 0};
+    return semOperations(semId, &op, 1);
+}
+
+int UiproGetImageShareData::semP(int semId)
+{
+    sembuf op{0, -1, SEM_UNDO};
+    if (semop(semId, &op, 1) < 0) {
+        out("p error");
+        return -1;
+    }
+    return 0;
+}
+
+int UiproGetImageShareData::semV(int semId)
+{
+    sembuf op{0, 1, SEM_UNDO};
+    if (semop(semId, &op, 1) < 0) {
+        out("v error");
+        return -1;
+    }
+    return 0;
+}
+
+int UiproGetImageShareData::deleteSem()
+{
+    std::printf("\n server exiting; deleting semaphore %d. \n", m_semId);
+    std::fflush(stdout);
+    if (semctl(m_semId, 0, IPC_RMID) < 0) {
+        out("==vorn delete error");
+        return -1;
+    }
+    return 0;
+}
+
+int UiproGetImageShareData::detach(Mode mode)
+{
+    if (mode == SingleBuffer) {
+        if (!m_shmAddr || shmdt(m_shmAddr) < 0) {
+            out("shmdt shared_data_t failed\r");
+            return -1;
+        }
+        m_shmAddr = nullptr;
+        return 0;
+    }
+    int result = 0;
+    for (int i = 0; i < 2; ++i) {
+        if (!m_shmAddrs[i] || shmdt(m_shmAddrs[i]) < 0) {
+            std::printf("shmdt shared_data_t %d failed\r\n", i);
+            std::fflush(stdout);
+            result = -1;
+            continue;
+        }
+        m_shmAddrs[i] = nullptr;
+    }
+    return result;
+}
+
+void UiproGetImageShareData::pinThread(unsigned long mask, pthread_t thread)
+{
+    cpu_set_t set;
+    CPU_ZERO(&set);
+    for (int cpu = 0; cpu < 6; ++cpu) {
+        if (mask & (1UL << cpu))
+            CPU_SET(cpu, &set);
+    }
+    (void)pthread_setaffinity_np(thread, sizeof set, &set);
+}
+
+bool UiproGetImageShareData::takeFrame(uint8_t **data, int *width, int *height, Mode mode)
+{
+    if (mode == SingleBuffer) {
+        if (!m_shmAddr)
+            return false;
+        auto *seg = static_cast<uint8_t *>(m_shmAddr);
+        quint32 w = 0, h = 0;
+        std::memcpy(&w, seg, 4);
+        std::memcpy(&h, seg + 4, 4);
+        m_frame = seg + kHeaderSize;
+        *data = m_frame;
+        *width = int(qFromLittleEndian(w));
+        *height = int(qFromLittleEndian(h));
+        return true;
+    }
+    // Two buffers, each with a "free" (ids 0 and 2) and a "written" (ids 1
+    // and 3) semaphore. Nothing attaches them today: refuse rather than poll
+    // for ever.
+    if (!m_shmAddrs[0] || !m_shmAddrs[1])
+        return false;
+    int chosen = -1;
+    while (chosen < 0) {
+        usleep(5000);
+        const int written0 = semctl(m_bufSemIds[1], 0, GETVAL);
+        const int written1 = semctl(m_bufSemIds[3], 0, GETVAL);
+        if (written0 > 0 && semctl(m_bufSemIds[0], 0, GETVAL) == 1)
+            chosen = 0; // buffer 0 wins a tie
+        else if (written1 > 0 && semctl(m_bufSemIds[2], 0, GETVAL) == 1)
+            chosen = 1;
+    }
+    m_lastBuffer = chosen;
+    if (semP(m_bufSemIds[chosen * 2]) < 0)
+        return false;
+    auto *seg = static_cast<uint8_t *>(m_shmAddrs[chosen]);
+    quint32 w = 0, h = 0;
+    std::memcpy(&w, seg, 4);
+    std::memcpy(&h, seg + 4, 4);
+    m_frame = seg + kHeaderSize;
+    *data = m_frame;
+    *width = int(qFromLittleEndian(w));
+    *height = int(qFromLittleEndian(h));
+    return true;
+}
+
+void UiproGetImageShareData::getShareImageData()
+{
+    out("getShareImageData=============");
+    if (!m_shmAddr) {
+        // Reading an unattached segment would crash: say so again and stay idle.
+        std::printf("==vorn shmat error: %s. \n", std::strerror(m_attachErrno ? m_attachErrno : EINVAL));
+        std::fflush(stdout);
+        qCWarning(lcPreview).noquote() << "preview: frame buffer not attached, reader not started";
+        return;
+    }
+    auto state = std::make_shared<ReaderState>();
+    state->segment = static_cast<const uint8_t *>(m_shmAddr);
+    state->semKey = semKey();
+    state->semId.store(m_semId);
+    state->running.store(true);
+    m_readers.push_back(state);
+    std::thread([state] { state->run(); }).detach();
+}
+
 void UiproGetImageShareData::setShareImageFlag(bool flag) { m_shareImageFlag = flag; }
+
+void UiproGetImageShareData::stopReader()
+{
+    for (auto &r : m_readers)
+        r->stop.store(true);
+    for (auto &r : m_readers) {
+        while (r->running.load())
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
+bool UiproGetImageShareData::readerRunning() const
+{
+    for (const auto &r : m_readers) {
+        if (r->running.load())
+            return true;
+    }
+    return false;
+}
+
+quint64 UiproGetImageShareData::refusedFrames() const
+{
+    quint64 total = 0;
+    for (const auto &r : m_readers)
+        total += r->refused.load();
+    return total;
+}

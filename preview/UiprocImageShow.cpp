@@ -1,18 +1,124 @@
 #include "UiprocImageShow.h"
 
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QPixmap>
+
+#include <pthread.h>
+#include <sched.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+std::atomic<UiprocImageShow *> g_lastShow{nullptr};
+
+qint64 monotonicMs()
+{
+    return QDeadlineTimer::current().deadline();
+}
+} // namespace
+
 UiprocImageProvider::UiprocImageProvider()
-    : QQuickImageProvider(QQuickImageProvider::Image)
+    : UiprocImageProvider(std::make_shared<PreviewFrameSlot>())
 {
 }
 
-QImage UiprocImageProvider::requestImage(const QString &, QSize *, const QSize &) { return {}; }
-QPixmap UiprocImageProvider::requestPixmap(const QString &, QSize *, const QSize &) { return {}; }
+UiprocImageProvider::UiprocImageProvider(std::shared_ptr<PreviewFrameSlot> slot)
+    : QQuickImageProvider(QQuickImageProvider::Image)
+    , m_slot(std::move(slot))
+{
+}
+
+QImage UiprocImageProvider::takeForServing()
+{
+    QMutexLocker lock(&m_slot->mutex);
+    // The screen has fetched: the next frame may signal again.
+    m_slot->refreshPending = false;
+    if (!m_slot->frame.isNull())
+        m_slot->served.fetch_add(1, std::memory_order_relaxed);
+    return m_slot->frame; // shallow, shared copy of the handle
+}
+
+QImage UiprocImageProvider::requestImage(const QString &, QSize *, const QSize &)
+{
+    return takeForServing();
+}
+
+QPixmap UiprocImageProvider::requestPixmap(const QString &, QSize *, const QSize &)
+{
+    return QPixmap::fromImage(takeForServing());
+}
+
+QImage UiprocImageProvider::currentFrame() const
+{
+    QMutexLocker lock(&m_slot->mutex);
+    return m_slot->frame;
+}
 
 UiprocImageShow::UiprocImageShow(QObject *parent)
     : QObject(parent)
-    , m_provider(new UiprocImageProvider)
+    , m_slot(std::make_shared<PreviewFrameSlot>())
+    , m_provider(new UiprocImageProvider(m_slot))
 {
+    g_lastShow.store(this);
 }
 
-void UiprocImageShow::setMainImage(QImage, int, int) {}
-void UiprocImageShow::setCore() {}
+UiprocImageShow::~UiprocImageShow()
+{
+    UiprocImageShow *self = this;
+    g_lastShow.compare_exchange_strong(self, nullptr);
+    // The provider belongs to the engine once installed; a provider that was
+    // never installed is ours to delete, but we cannot tell which, so leave it
+    // (it only holds a reference to the shared slot).
+}
+
+UiprocImageShow *UiprocImageShow::instance()
+{
+    return g_lastShow.load();
+}
+
+void UiprocImageShow::setMainImage(QImage image, int width, int height)
+{
+    // Deep copy: the caller may free the buffer the image wraps right after.
+    // Only the part inside the image is taken; an empty rectangle gives a
+    // null frame (QImage::copy would take the whole image for it).
+    const QRect part = QRect(0, 0, width, height).intersected(image.rect());
+    storeAndNotify(part.isEmpty() ? QImage() : image.copy(part));
+}
+
+void UiprocImageShow::deliverFrame(const QImage &frame)
+{
+    storeAndNotify(QImage(frame));
+}
+
+void UiprocImageShow::storeAndNotify(QImage &&frame)
+{
+    bool signal = false;
+    {
+        QMutexLocker lock(&m_slot->mutex);
+        m_slot->frame.swap(frame);
+        m_slot->delivered.fetch_add(1, std::memory_order_relaxed);
+        const qint64 now = monotonicMs();
+        // A producer faster than the display must not queue a load per frame:
+        // newer frames replace the waiting one until the screen fetches it.
+        if (!m_slot->refreshPending || now - m_slot->pendingSinceMs >= kRefreshRearmMs) {
+            m_slot->refreshPending = true;
+            m_slot->pendingSinceMs = now;
+            signal = true;
+        }
+    }
+    // The old frame (now in `frame`) is released outside the lock.
+    frame = QImage();
+    if (signal)
+        emit callRefreshMainImg();
+}
+
+void UiprocImageShow::setCore()
+{
+    (void)syscall(SYS_gettid);
+    cpu_set_t set;
+    CPU_ZERO(&set);
+    CPU_SET(3, &set);
+    // Fewer cores (a desktop): the thread keeps its mask.
+    (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}

@@ -1,15 +1,41 @@
 #pragma once
 // Holds the latest preview frame (in its image provider) and tells the screens a new one is there.
 #include <QImage>
+#include <QMutex>
 #include <QObject>
 #include <QQuickImageProvider>
+
+#include <atomic>
+#include <memory>
+
+// The frame slot shared by the show object and its provider. The provider is
+// owned by the QML engine and may outlive or predecease the show object, so
+// neither holds a raw pointer to the other.
+struct PreviewFrameSlot
+{
+    QMutex mutex;     // guards frame; image handles are not safe to swap under concurrent readers
+    QImage frame;
+    // Refresh coalescing: at most one load outstanding. Written under mutex.
+    bool refreshPending = false;
+    qint64 pendingSinceMs = 0;
+    std::atomic<quint64> served{0};      // frames handed to the engine
+    std::atomic<quint64> delivered{0};   // frames stored in the slot
+};
 
 class UiprocImageProvider : public QQuickImageProvider
 {
 public:
     UiprocImageProvider();
+    explicit UiprocImageProvider(std::shared_ptr<PreviewFrameSlot> slot);
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
     QPixmap requestPixmap(const QString &id, QSize *size, const QSize &requestedSize) override;
+
+    // The current frame without marking it served (for tests and tools).
+    QImage currentFrame() const;
+
+private:
+    QImage takeForServing();
+    std::shared_ptr<PreviewFrameSlot> m_slot;
 };
 
 class UiprocImageShow : public QObject
@@ -17,9 +43,25 @@ class UiprocImageShow : public QObject
     Q_OBJECT
 public:
     explicit UiprocImageShow(QObject *parent = nullptr);
+    ~UiprocImageShow() override;
     UiprocImageProvider *provider() const { return m_provider; }
     void setScreenCount(int count) { m_screenCount = count; }
     int screenCount() const { return m_screenCount; }
+
+    // The instance constructed last; the frame reader feeds it.
+    static UiprocImageShow *instance();
+
+    // Takes a frame the caller no longer writes to (no deep copy). Used by the
+    // frame reader, whose images are already in the display format.
+    void deliverFrame(const QImage &frame);
+
+    // If nothing fetched the frame within this time after a refresh signal,
+    // the next frame signals again (a refresh the screen skipped must not
+    // stop the preview for good).
+    static constexpr int kRefreshRearmMs = 200;
+
+    quint64 framesDelivered() const { return m_slot->delivered.load(); }
+    quint64 framesServed() const { return m_slot->served.load(); }
 
 signals:
     void callRefreshMainImg();
@@ -29,6 +71,9 @@ public slots:
     void setCore();
 
 private:
+    void storeAndNotify(QImage &&frame);
+
+    std::shared_ptr<PreviewFrameSlot> m_slot;
     UiprocImageProvider *m_provider = nullptr;
     int m_screenCount = 0;
 };

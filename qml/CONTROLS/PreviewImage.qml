@@ -1,0 +1,63 @@
+import QtQuick 2.15
+
+// The live preview picture. It follows the frame source's refresh signal and
+// fetches each frame from the "MyMainCodeImg" provider; the changing id
+// defeats the image cache. `live` turns false when no frame came for
+// `staleAfterMs`, so a screen can show that there is no signal.
+Item {
+    id: preview
+
+    // The object announcing frames (the "CodeImage" context property by default).
+    property QtObject frameSource: (typeof CodeImage !== "undefined") ? CodeImage : null
+    // No refresh while set (for instance during a software upgrade).
+    property bool paused: false
+    readonly property bool live: d.live
+    property int staleAfterMs: 2000
+    readonly property int framesShown: d.framesShown
+    property alias fillMode: picture.fillMode
+    readonly property alias status: picture.status
+
+    implicitWidth: 640
+    implicitHeight: 360
+
+    QtObject {
+        id: d
+        property bool coreSet: false
+        property bool live: false
+        property int framesShown: 0
+    }
+
+    Image {
+        id: picture
+        objectName: "previewPicture"
+        anchors.fill: parent
+        fillMode: Image.PreserveAspectFit
+        cache: false
+        smooth: true
+    }
+
+    Timer {
+        id: staleTimer
+        interval: preview.staleAfterMs
+        onTriggered: d.live = false
+    }
+
+    Connections {
+        target: preview.frameSource
+        ignoreUnknownSignals: true
+        function onCallRefreshMainImg() {
+            if (!d.coreSet) {
+                d.coreSet = true
+                if (preview.frameSource && typeof preview.frameSource.setCore === "function")
+                    preview.frameSource.setCore()
+            }
+            d.live = true
+            staleTimer.restart()
+            if (preview.paused)
+                return
+            picture.source = "image://MyMainCodeImg/" + Math.random()
+            if (picture.status === Image.Ready)
+                d.framesShown++
+        }
+    }
+}
