@@ -2,16 +2,20 @@
 // The screens' controller: device commands to the media service, the
 // settings file, the run's log and (later) the board's hardware. The
 // command transport lives in UiProc_transport.cpp, the command set in
-// UiProc_commands.cpp, settings and log in UiProc_settings.cpp.
+// UiProc_commands.cpp (its vocabulary in LinkCommands.h), settings and log
+// in UiProc_settings.cpp.
 #include "model_Protocoldata.h"
 
+#include <QElapsedTimer>
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
 #include <QMutex>
 #include <QObject>
+#include <QVariantList>
 
+class QTimer;
 class QUdpSocket;
 class biz_CMDSWork;
 
@@ -22,11 +26,22 @@ public:
     explicit UiProc(QObject *parent = nullptr);
     ~UiProc() override;
 
-    // The worker of the UiProc constructed last (reports are taken from it).
+    // The worker of the live UiProc constructed last (reports are taken from
+    // it). When that UiProc goes, the previous live one's worker takes over.
     static biz_CMDSWork *processWorker();
 
     // Day-based diagnostics file, not QML-facing.
     void writeDailyLog(const QString &text);
+
+    // Transport details for the rest of the native code and for tests.
+    quint16 destinationPort() const { return m_destPort; }
+    quint16 listenPort() const { return m_listenPort; }
+    quint16 commandSocketPort() const;
+    // Destinations of records sent with send mode 1; empty unless filled here.
+    void setBroadcastAddresses(const QList<QHostAddress> &addresses) { m_broadcastList = addresses; }
+    // How long a 0xF1 data block may take to arrive, measured from its header.
+    static constexpr int kBlockCollectLimitMs = 2000;
+    bool isCollectingBlock() const;
 
 signals:
     void uiChangeUI(int ADDR, int SN, int CMD, int DAT1, int DAT2, int DAT3, int DAT4, int CHKSUM,
@@ -52,16 +67,142 @@ public slots:
     short combineTwoByte(uchar lowDat, uchar higDat);
 
     // ---- transport (UiProc_transport.cpp)
+    void reInitUdp();
+    void readPendingDatagrams();
+    void readPendingDatagramsNet();
+    void sendDatatoDevice(model_Protocoldata parameters);
+    void processInfoDisplayonUI(model_Protocoldata parameters);
+    void clearCMDQueue();
 
     // ---- command set (UiProc_commands.cpp)
+    // connect... operations return true at once; the record leaves later.
+    bool connectGetInputSignalFormat();          // every input
+    bool connectGetInputSignalFormat(int type);  // -1 every input, 0..4 one, else none
+    bool connectGetInputCurrentFormat();
+    bool connectGetInputCurrentFormat(int type); // -1 every input, 0..3 one, else none
+    bool connectGetAudioSamplingRate(int type, int inputType, int rate);
+    bool connectGetRecordFileName();
+    bool connectReadSN();
+    bool connectVersion();
+    bool connectSystemVersion();
+    bool connectGetUSBStatus();
+    bool connectGetTypeCStatus();
+    bool connectGetPower();
+    bool connectGetOutputStatus();
+    bool connectResetFactory();
+    void sendresetFactory();
+    bool connectPowerOff();
+    bool connectGetLocalHost();
+    bool connectVideo(uchar code);
+    bool connectSwitchAudio(uchar channel);
+    bool connectRec(uchar type, uchar code);
+    bool connectDeRecordFileName();
+    bool connectSwitchVideo(uchar channel, bool outPGM);
+    bool connectReadInitInput();
+    bool connectSetPIP(uchar pipType, uchar pipPosition);
+    bool connectGetStatisticPic(uchar type, bool isOpen, uchar position);
+    bool connectStreamPlatformStatus();
+    void getStreamPlatformStatus();
+    bool readHDMI2Status();
+    bool connectSetInputSignalFormat(QJsonArray videoFormatList);
+    bool connectSetRecordName(QString fileName);
+    bool connectStreamOnAir(int nIsRtmpOpen, QString rtmpAddr); // isSend = true
+    bool connectStreamOnAir(int nIsRtmpOpen, QString rtmpAddr, bool isSend);
+    bool connectStreamParams(int isRtmpDefault, int RtmpResolution, int RtmpRate);
+
+    // Bluetooth (isZor: the companion-app variant)
+    bool connectBluetoothOpen(bool isOpen);
+    void sendBluetoothOpen(bool isOpen);
+    bool connectBluetoothSearch(bool isOpen, bool isBroadCast);
+    void sendBluetoothSearch(bool isOpen, bool isBroadCast);
+    bool connectBluetoothDevInfo(bool isZor);
+    void getBluetoothDevInfo(bool isZor);
+    bool connectBluetoothDev(QString mac, bool isZor);
+    void sendBluetoothDev(QString mac);
+    void sendBluetoothZorDev(QString mac, bool connect);
+    bool disconnectBluetoothDev(QString mac, bool isZor);
+    void breakBluetoothDev(QString mac);
+    void sendBluetoothConnect_New(bool isConnect);
+    void sendBluetoothOpen_New(bool isOpen);
+
+    // NDI
+    bool connectNDIMenuSwitch(uchar action, uchar switchType);
+    bool connectNDIEncodingSwitch(uchar action, uchar switchType);
+    bool connectGetNDIDecodingSignal();
+    bool connectSetNDIDecodingSignal(uchar switchType, QString signalName);
+    bool connectNDIDecodingFormat(uchar action, uchar type);
+    bool connectNDIDecodingSwitch(uchar switchType);
+    bool connectRNDISwitch();
+    void redNDISwitch();
+    bool connectSNDISwitch(uchar switchType);
+    void setNDISwitch(uchar switchType);
+    bool connectRNDIGroupName();
+    void getNDIGroupName();
+    bool connectSNDIGroupName(QString groupName);
+    void setNDIGroupName(QString groupName);
+    bool connectRNDIChannelName();
+    void getNDIChannelName();
+    bool connectSNDIChannelName(QString channelName);
+    void setNDIchannelName(QString channelName);
+    bool connectRNDIDeviceName();
+    void getDNIDeviceName();
+    bool connectSNDIDeviceName(QString deviceName);
+    void setNDIDeviceName(QString deviceName);
+    bool connectRNDIConnection();
+    void getNDIConnection();
+    bool connectSNDIConnection(uchar connectType, uchar ttlValue, QString addrStr, QString netmaskStr);
+    void setNDIConnection(uchar connectType, uchar ttlValue, QString addrStr, QString netmaskStr);
+    bool connectRNDIDateType();
+    void getNDIDataType();
+    bool connectSNDIDateType(uchar dataType, uchar codeValue);
+    void setNDIDataType(uchar dataType, uchar codeValue);
+    bool connectRNDIBaseInfo();
+    void setNDIbaseInfo();
+
+    // UVC camera and HDMI output
+    bool connectUVCStyleSupport(uchar uvcID);
+    bool connectUVCStyle(uchar uvcID, uchar styleType, uchar styleValue);
+    bool connectUVCControlSupport(uchar uvcID);
+    bool connectUVCDirectionAndZoom(uchar uvcID, uchar controlType);
+    bool connectAutoFocus(uchar action, uchar uvcID, uchar controlType);
+    bool connectView(uchar action, uchar uvcID, uchar controlType, uchar viewIndex);
+    bool connectHdmiOutStyle(uchar action, uchar type);
 
 private:
     void setupTransport();
     void teardownTransport();
+    void setupSockets();
+    void readDatagrams(QUdpSocket *socket);
+    void handleDatagram(const QByteArray &datagram);
+    void abandonBlock(const char *why);
+    void checkBlockTimeout();
+
+    // Command set helpers: run a table command the way its entry says
+    // (log, detached thread or caller's thread), or its sender inline.
+    bool runCommand(const char *key, const QVariantList &args, bool writeSlotLog = true);
+    void sendCommandNow(const char *key, const QVariantList &args);
+    int currentInputIndex();
 
     QJsonObject m_iniData;
     bool m_initFinished = false;
 
     // transport state
     biz_CMDSWork *m_worker = nullptr;
+    QString m_destAddress = QStringLiteral("127.0.0.1");
+    quint16 m_destPort = 5560;
+    quint16 m_listenPort = 1259;
+    QUdpSocket *m_cmdSocket = nullptr;
+    QUdpSocket *m_listenSocket = nullptr;
+    QList<QHostAddress> m_broadcastList;
+
+    // 0xF1 block collector: header kept while its data block arrives.
+    mutable QMutex m_collectLock;
+    bool m_collecting = false;
+    model_Protocoldata m_collectHeader;
+    QByteArray m_collectBlock;
+    QElapsedTimer m_collectClock;
+    QTimer *m_collectTimer = nullptr;
+
+    // Host that the reachability check pings (set by connectGetLocalHost).
+    QString m_targetHost;
 };

@@ -3,18 +3,27 @@
 #include <cerrno>
 #include <ctime>
 
-QList<model_Protocoldata> biz_CMDSWork::queueHexCmd;
-QMutex biz_CMDSWork::HexCmdlock;
-QList<model_Protocoldata> biz_CMDSWork::receivequeueHexCmd;
-QMutex biz_CMDSWork::receiveHexCmdlock;
+#include <sys/prctl.h>
+
+QList<model_Protocoldata> &biz_CMDSWork::queueHexCmd = *new QList<model_Protocoldata>;
+QMutex &biz_CMDSWork::HexCmdlock = *new QMutex;
+QList<model_Protocoldata> &biz_CMDSWork::receivequeueHexCmd = *new QList<model_Protocoldata>;
+QMutex &biz_CMDSWork::receiveHexCmdlock = *new QMutex;
 bool biz_CMDSWork::bRetFlag = false;
-QWaitCondition biz_CMDSWork::HexCmdReady;
-QWaitCondition biz_CMDSWork::receiveHexCmdReady;
+QWaitCondition &biz_CMDSWork::HexCmdReady = *new QWaitCondition;
+QWaitCondition &biz_CMDSWork::receiveHexCmdReady = *new QWaitCondition;
 
 namespace {
 
 void pacingSleep()
 {
+    // The default 50 us timer slack would stretch every paced record; the
+    // pacing is meant to be 5 ms, so ask for a tight wake-up on this thread.
+    thread_local bool tightSlack = false;
+    if (!tightSlack) {
+        prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
+        tightSlack = true;
+    }
     timespec req{0, 5 * 1000 * 1000};
     timespec rem{};
     while (nanosleep(&req, &rem) != 0 && errno == EINTR)

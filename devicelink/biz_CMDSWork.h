@@ -18,15 +18,16 @@ public:
     explicit biz_CMDSWork(QObject *parent = nullptr);
 
     // Class-wide queues, their locks and the reply flag. Lock order:
-    // receiveHexCmdlock before HexCmdlock.
-    static QList<model_Protocoldata> queueHexCmd;
-    static QMutex HexCmdlock;
-    static QList<model_Protocoldata> receivequeueHexCmd;
-    static QMutex receiveHexCmdlock;
+    // receiveHexCmdlock before HexCmdlock. They are never destroyed: a
+    // detached loop may still be waiting on them while the process exits.
+    static QList<model_Protocoldata> &queueHexCmd;
+    static QMutex &HexCmdlock;
+    static QList<model_Protocoldata> &receivequeueHexCmd;
+    static QMutex &receiveHexCmdlock;
     static bool bRetFlag;
     // Woken (under the matching lock) whenever a record is queued or a loop is stopped.
-    static QWaitCondition HexCmdReady;
-    static QWaitCondition receiveHexCmdReady;
+    static QWaitCondition &HexCmdReady;
+    static QWaitCondition &receiveHexCmdReady;
 
     // Run flags, set by the owner before it starts each loop.
     std::atomic<bool> bSendRun{false};

@@ -1,0 +1,210 @@
+#pragma once
+// Loopback harness for the device link: a peer socket playing the media
+// service on a private port, a UiProc whose ports come from the
+// environment, and captures of log lines and of the records the receive
+// loop hands over.
+#include "Logger.h"
+#include "ProtocolFrame.h"
+#include "TestSysroot.h"
+#include "UiProc.h"
+#include "biz_CMDSWork.h"
+
+#include <QElapsedTimer>
+#include <QMutex>
+#include <QUdpSocket>
+#include <QtTest>
+
+#include <memory>
+
+namespace LinkTest {
+
+// A port nobody uses right now (the kernel picks it).
+inline quint16 freeUdpPort()
+{
+    QUdpSocket probe;
+    probe.bind(QHostAddress(QHostAddress::LocalHost), 0);
+    return probe.localPort();
+}
+
+// Empties the class-wide queues, so one test's leftovers never reach the next.
+inline void clearSharedQueues()
+{
+    QMutexLocker r(&biz_CMDSWork::receiveHexCmdlock);
+    biz_CMDSWork::receivequeueHexCmd.clear();
+    QMutexLocker c(&biz_CMDSWork::HexCmdlock);
+    biz_CMDSWork::queueHexCmd.clear();
+}
+
+inline int sharedReportQueueSize()
+{
+    QMutexLocker r(&biz_CMDSWork::receiveHexCmdlock);
+    return biz_CMDSWork::receivequeueHexCmd.size();
+}
+
+// A report frame from the service ("<F", lower-case digits, our own checksum).
+inline QByteArray reportFrame(uchar cmd, uchar d1 = 0, uchar d2 = 0, uchar d3 = 0, uchar d4 = 0)
+{
+    const uchar bytes[7] = {0, 0, cmd, d1, d2, d3, d4};
+    uchar sum = 0;
+    QByteArray text("<F");
+    for (uchar b : bytes) {
+        sum = uchar(sum + b);
+        text += QByteArray::number(b, 16).rightJustified(2, '0');
+    }
+    text += QByteArray::number(sum, 16).rightJustified(2, '0');
+    text += '>';
+    return text;
+}
+
+// Every message of every category, kept with its category name.
+class MessageCapture
+{
+public:
+    MessageCapture()
+    {
+        s_current = this;
+        m_previous = qInstallMessageHandler(&MessageCapture::handler);
+    }
+    ~MessageCapture()
+    {
+        qInstallMessageHandler(m_previous);
+        s_current = nullptr;
+    }
+    QStringList lines(const char *category = "cs.log") const
+    {
+        QMutexLocker lock(&m_mutex);
+        QStringList out;
+        for (const auto &m : m_messages)
+            if (m.first == QLatin1String(category))
+                out << m.second;
+        return out;
+    }
+    bool contains(const QString &text, const char *category = "cs.log") const { return lines(category).contains(text); }
+    int count(const QString &text, const char *category = "cs.log") const { return lines(category).count(text); }
+    void clear()
+    {
+        QMutexLocker lock(&m_mutex);
+        m_messages.clear();
+    }
+
+private:
+    static void handler(QtMsgType type, const QMessageLogContext &ctx, const QString &msg)
+    {
+        MessageCapture *self = s_current.load();
+        if (!self) {
+            return;
+        }
+        {
+            QMutexLocker lock(&self->m_mutex);
+            self->m_messages.append({QString::fromLatin1(ctx.category ? ctx.category : "default"), msg});
+        }
+        // Test failures and warnings stay visible.
+        if (type >= QtWarningMsg && self->m_previous)
+            self->m_previous(type, ctx, msg);
+    }
+    QtMessageHandler m_previous = nullptr;
+    mutable QMutex m_mutex;
+    QList<QPair<QString, QString>> m_messages;
+    static inline std::atomic<MessageCapture *> s_current{nullptr};
+};
+
+// Records every report a worker's receive loop hands over, from that loop's thread.
+class ReportTap
+{
+public:
+    explicit ReportTap(biz_CMDSWork *worker)
+    {
+        m_conn = QObject::connect(worker, &biz_CMDSWork::signalSendReceiveMessage, worker,
+                                  [this](const model_Protocoldata &rec) {
+                                      QMutexLocker lock(&m_mutex);
+                                      m_records.append(rec);
+                                  },
+                                  Qt::DirectConnection);
+    }
+    ~ReportTap() { QObject::disconnect(m_conn); }
+    QList<model_Protocoldata> records() const
+    {
+        QMutexLocker lock(&m_mutex);
+        return m_records;
+    }
+    int size() const { return records().size(); }
+
+private:
+    QMetaObject::Connection m_conn;
+    mutable QMutex m_mutex;
+    QList<model_Protocoldata> m_records;
+};
+
+// The media service's side: a socket on a private port, and a UiProc that
+// sends to it and listens on another private port.
+class LinkFixture
+{
+public:
+    LinkFixture()
+        : sysroot(true)
+    {
+        clearSharedQueues();
+        QVERIFY(peer.bind(QHostAddress(QHostAddress::LocalHost), 0));
+        mediaPort = peer.localPort();
+        listenPort = freeUdpPort();
+        qputenv("CS_MEDIA_PORT", QByteArray::number(mediaPort));
+        qputenv("CS_LISTEN_PORT", QByteArray::number(listenPort));
+        proc.reset(new UiProc);
+        Logger::instance().setSwitch(1);
+    }
+    ~LinkFixture()
+    {
+        proc.reset();
+        Logger::instance().close();
+        clearSharedQueues();
+    }
+
+    // Waits (spinning the event loop, which the send path needs) for the
+    // next datagram at the peer; empty on time-out.
+    QByteArray nextCommand(int timeoutMs = 3000, quint16 *fromPort = nullptr)
+    {
+        QElapsedTimer t;
+        t.start();
+        while (!peer.hasPendingDatagrams() && t.elapsed() < timeoutMs)
+            QTest::qWait(1);
+        if (!peer.hasPendingDatagrams())
+            return QByteArray();
+        QByteArray d;
+        d.resize(int(peer.pendingDatagramSize()));
+        QHostAddress from;
+        quint16 port = 0;
+        d.resize(int(peer.readDatagram(d.data(), d.size(), &from, &port)));
+        if (fromPort)
+            *fromPort = port;
+        lastCommandPort = port;
+        return d;
+    }
+    // Everything that arrives within quietMs (spinning the event loop).
+    QList<QByteArray> drainCommands(int quietMs)
+    {
+        QList<QByteArray> out;
+        for (;;) {
+            const QByteArray d = nextCommand(quietMs);
+            if (d.isEmpty() && !peer.hasPendingDatagrams())
+                break;
+            out << d;
+        }
+        return out;
+    }
+    // Sends a datagram as the service would: to the listening port, or
+    // back to the port the command socket sends from.
+    void sendToListener(const QByteArray &bytes) { peer.writeDatagram(bytes, QHostAddress::LocalHost, listenPort); }
+    void sendToCommandSocket(const QByteArray &bytes)
+    {
+        peer.writeDatagram(bytes, QHostAddress::LocalHost, proc->commandSocketPort());
+    }
+
+    TestSysroot sysroot;
+    QUdpSocket peer;
+    quint16 mediaPort = 0;
+    quint16 listenPort = 0;
+    quint16 lastCommandPort = 0;
+    std::unique_ptr<UiProc> proc;
+};
+
+} // namespace LinkTest
