@@ -29,8 +29,26 @@ __attribute__((target("ssse3"))) void convertSsse3(const uint8_t *src, size_t sr
     for (int y = 0; y < height; ++y) {
         const uint8_t *s = src + size_t(y) * srcStride;
         uint8_t *d = dst + size_t(y) * dstStride;
+        // The last 16-byte load reads 4 bytes past its 16 pixels: on the last
+        // row keep two pixels in hand so nothing past the frame is touched.
+        const int vecEnd = y + 1 < height ? width : width - 2;
         int x = 0;
-        for (; x + 16 <= width; x += 16, s += 48, d += 64) {
+        if ((reinterpret_cast<uintptr_t>(d) & 15) == 0) {
+            // Streaming stores: the frame is far larger than the caches and
+            // is read next by another thread, so skip reading the old
+            // destination lines in and keep the caches for the source.
+            for (; x + 16 <= vecEnd; x += 16, s += 48, d += 64) {
+                __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s));
+                __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + 12));
+                __m128i c = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + 24));
+                __m128i e = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + 36));
+                _mm_stream_si128(reinterpret_cast<__m128i *>(d), _mm_or_si128(_mm_shuffle_epi8(a, shuf), alpha));
+                _mm_stream_si128(reinterpret_cast<__m128i *>(d + 16), _mm_or_si128(_mm_shuffle_epi8(b, shuf), alpha));
+                _mm_stream_si128(reinterpret_cast<__m128i *>(d + 32), _mm_or_si128(_mm_shuffle_epi8(c, shuf), alpha));
+                _mm_stream_si128(reinterpret_cast<__m128i *>(d + 48), _mm_or_si128(_mm_shuffle_epi8(e, shuf), alpha));
+            }
+        }
+        for (; x + 16 <= vecEnd; x += 16, s += 48, d += 64) {
             __m128i a = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s));
             __m128i b = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + 12));
             __m128i c = _mm_loadu_si128(reinterpret_cast<const __m128i *>(s + 24));
@@ -42,6 +60,7 @@ __attribute__((target("ssse3"))) void convertSsse3(const uint8_t *src, size_t sr
         }
         rowScalar(s, reinterpret_cast<uint32_t *>(d), width - x);
     }
+    _mm_sfence(); // streaming stores visible before the frame is handed on
 }
 
 bool haveSsse3()

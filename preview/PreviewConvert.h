@@ -8,7 +8,7 @@ namespace PreviewConvert {
 
 // srcStride: bytes from one source row to the next (width * 3 when packed).
 // dstStride: bytes from one destination row to the next.
-// The source must stay readable for 16 bytes past the last pixel (vector loads).
+// Nothing past the last source pixel is read.
 void rgb888ToRgb32(const uint8_t *src, size_t srcStride, uint8_t *dst, size_t dstStride, int width,
                    int height);
 

@@ -82,9 +82,6 @@ struct UiproGetImageShareData::ReaderState
     std::atomic<bool> running{false};
     std::atomic<quint64> refused{0};
 
-    // A private copy of the frame, allocated once: the segment is released
-    // as soon as this copy is made.
-    std::vector<uint8_t> staging;
     // Display images, reused once nobody else holds them: a fresh 8 MB block
     // per frame costs page faults on every frame.
     std::vector<QImage> pool;
@@ -92,7 +89,7 @@ struct UiproGetImageShareData::ReaderState
     qint64 lastRefusalLogMs = 0;
     quint64 refusalsSinceLog = 0;
 
-    QImage acquire(int width, int height);
+    QImage acquire(int width, int height, uint8_t **pixels);
     bool waitReady();
     void release();
     void refuse(const char *why, quint32 width, quint32 height);
@@ -100,15 +97,20 @@ struct UiproGetImageShareData::ReaderState
     void run();
 };
 
-QImage UiproGetImageShareData::ReaderState::acquire(int width, int height)
+// An image nobody else holds, and its pixels. The pointer is taken while the
+// pool is the only owner: bits() on a shared image would copy it.
+QImage UiproGetImageShareData::ReaderState::acquire(int width, int height, uint8_t **pixels)
 {
     for (QImage &img : pool) {
-        if (img.width() == width && img.height() == height && img.isDetached())
+        if (img.width() == width && img.height() == height && img.isDetached()) {
+            *pixels = img.bits();
             return img;
+        }
     }
     QImage fresh(width, height, QImage::Format_RGB32);
     if (fresh.isNull())
         return fresh;
+    *pixels = fresh.bits();
     if (int(pool.size()) < kPoolMax) {
         pool.push_back(fresh);
         return fresh;
@@ -219,7 +221,6 @@ void UiproGetImageShareData::ReaderState::run()
         // A machine without that core keeps the old mask.
         (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
     }
-    staging.assign(kPixelArea + 64, 0); // slack for vector loads past the last pixel
 
     while (!stop.load()) {
         if (!waitReady())
@@ -241,18 +242,22 @@ void UiproGetImageShareData::ReaderState::run()
             refuse("larger than the frame buffer", w, h);
             continue;
         }
-        std::memcpy(staging.data(), segment + kHeaderSize, size_t(n));
-        release();
-
-        QImage frame = acquire(int(w), int(h));
+        uint8_t *pixels = nullptr;
+        QImage frame = acquire(int(w), int(h), &pixels);
         if (frame.isNull()) {
+            release();
             refuse("no memory for the image", w, h);
             continue;
         }
-        // Rows are packed (width * 3 bytes, any width); the display image has
-        // its own aligned stride.
-        PreviewConvert::rgb888ToRgb32(staging.data(), size_t(w) * 3u, frame.bits(),
+        // The one pass over the frame is the copy out of the segment: it
+        // converts to the display format on the way (the scene graph would
+        // otherwise convert every RGB888 frame on the GUI thread) and takes
+        // about as long as a plain copy, so the buffer is held no longer.
+        // Rows are packed (width * 3 bytes, any width); the image has its own
+        // aligned stride.
+        PreviewConvert::rgb888ToRgb32(segment + kHeaderSize, size_t(w) * 3u, pixels,
                                       size_t(frame.bytesPerLine()), int(w), int(h));
+        release();
         if (UiprocImageShow *show = UiprocImageShow::instance())
             show->deliverFrame(frame);
         if (PreviewReaderHooks::FrameHook *hook = PreviewReaderHooks::g_hook.load())
