@@ -1,0 +1,219 @@
+#include "SimPicture.h"
+
+#include <cstring>
+
+namespace Sim {
+
+Scene Scene::from(const DeviceState &s)
+{
+    Scene scene;
+    scene.programme = s.programme;
+    scene.pipInput = s.sub;
+    scene.pipOn = s.pipType != 0;
+    scene.pipPosition = s.pipPosition & 3;
+    scene.plugged = s.plugged;
+    return scene;
+}
+
+namespace Picture {
+
+namespace {
+
+struct Glyph
+{
+    char c;
+    uchar rows[7]; // five dots per row, bit 4 leftmost
+};
+
+const Glyph kFont[] = {
+    {'0', {0x0E, 0x11, 0x13, 0x15, 0x19, 0x11, 0x0E}}, {'1', {0x04, 0x0C, 0x04, 0x04, 0x04, 0x04, 0x0E}},
+    {'2', {0x0E, 0x11, 0x01, 0x02, 0x04, 0x08, 0x1F}}, {'3', {0x1F, 0x02, 0x04, 0x02, 0x01, 0x11, 0x0E}},
+    {'4', {0x02, 0x06, 0x0A, 0x12, 0x1F, 0x02, 0x02}}, {'5', {0x1F, 0x10, 0x1E, 0x01, 0x01, 0x11, 0x0E}},
+    {'6', {0x06, 0x08, 0x10, 0x1E, 0x11, 0x11, 0x0E}}, {'7', {0x1F, 0x01, 0x02, 0x04, 0x08, 0x08, 0x08}},
+    {'8', {0x0E, 0x11, 0x11, 0x0E, 0x11, 0x11, 0x0E}}, {'9', {0x0E, 0x11, 0x11, 0x0F, 0x01, 0x02, 0x0C}},
+    {'A', {0x0E, 0x11, 0x11, 0x11, 0x1F, 0x11, 0x11}}, {'B', {0x1E, 0x11, 0x11, 0x1E, 0x11, 0x11, 0x1E}},
+    {'C', {0x0E, 0x11, 0x10, 0x10, 0x10, 0x11, 0x0E}}, {'D', {0x1C, 0x12, 0x11, 0x11, 0x11, 0x12, 0x1C}},
+    {'E', {0x1F, 0x10, 0x10, 0x1E, 0x10, 0x10, 0x1F}}, {'F', {0x1F, 0x10, 0x10, 0x1E, 0x10, 0x10, 0x10}},
+    {'G', {0x0E, 0x11, 0x10, 0x17, 0x11, 0x11, 0x0F}}, {'H', {0x11, 0x11, 0x11, 0x1F, 0x11, 0x11, 0x11}},
+    {'I', {0x0E, 0x04, 0x04, 0x04, 0x04, 0x04, 0x0E}}, {'J', {0x07, 0x02, 0x02, 0x02, 0x02, 0x12, 0x0C}},
+    {'K', {0x11, 0x12, 0x14, 0x18, 0x14, 0x12, 0x11}}, {'L', {0x10, 0x10, 0x10, 0x10, 0x10, 0x10, 0x1F}},
+    {'M', {0x11, 0x1B, 0x15, 0x15, 0x11, 0x11, 0x11}}, {'N', {0x11, 0x11, 0x19, 0x15, 0x13, 0x11, 0x11}},
+    {'O', {0x0E, 0x11, 0x11, 0x11, 0x11, 0x11, 0x0E}}, {'P', {0x1E, 0x11, 0x11, 0x1E, 0x10, 0x10, 0x10}},
+    {'Q', {0x0E, 0x11, 0x11, 0x11, 0x15, 0x12, 0x0D}}, {'R', {0x1E, 0x11, 0x11, 0x1E, 0x14, 0x12, 0x11}},
+    {'S', {0x0F, 0x10, 0x10, 0x0E, 0x01, 0x01, 0x1E}}, {'T', {0x1F, 0x04, 0x04, 0x04, 0x04, 0x04, 0x04}},
+    {'U', {0x11, 0x11, 0x11, 0x11, 0x11, 0x11, 0x0E}}, {'V', {0x11, 0x11, 0x11, 0x11, 0x11, 0x0A, 0x04}},
+    {'W', {0x11, 0x11, 0x11, 0x15, 0x15, 0x15, 0x0A}}, {'X', {0x11, 0x11, 0x0A, 0x04, 0x0A, 0x11, 0x11}},
+    {'Y', {0x11, 0x11, 0x11, 0x0A, 0x04, 0x04, 0x04}}, {'Z', {0x1F, 0x01, 0x02, 0x04, 0x08, 0x10, 0x1F}},
+    {':', {0x00, 0x0C, 0x0C, 0x00, 0x0C, 0x0C, 0x00}}, {'-', {0x00, 0x00, 0x00, 0x1F, 0x00, 0x00, 0x00}},
+    {'.', {0x00, 0x00, 0x00, 0x00, 0x00, 0x0C, 0x0C}}, {'/', {0x00, 0x01, 0x02, 0x04, 0x08, 0x10, 0x00}},
+    {' ', {0, 0, 0, 0, 0, 0, 0}},
+};
+const uchar kUnknown[7] = {0x1F, 0x11, 0x11, 0x11, 0x11, 0x11, 0x1F};
+
+const uchar *glyph(char c)
+{
+    if (c >= 'a' && c <= 'z')
+        c = char(c - 'a' + 'A');
+    for (const Glyph &g : kFont)
+        if (g.c == c)
+            return g.rows;
+    return kUnknown;
+}
+
+inline void put(uchar *rgb, int width, int x, int y, Rgb c)
+{
+    uchar *p = rgb + (size_t(y) * size_t(width) + size_t(x)) * 3;
+    p[0] = c.r;
+    p[1] = c.g;
+    p[2] = c.b;
+}
+
+void fill(uchar *rgb, int width, int height, Rect r, Rgb c)
+{
+    const int x0 = qMax(0, r.x), y0 = qMax(0, r.y);
+    const int x1 = qMin(width, r.x + r.w), y1 = qMin(height, r.y + r.h);
+    for (int y = y0; y < y1; ++y)
+        for (int x = x0; x < x1; ++x)
+            put(rgb, width, x, y, c);
+}
+
+const Rgb kBars[7] = {{191, 191, 191}, {191, 191, 0}, {0, 191, 191}, {0, 191, 0},
+                      {191, 0, 191},   {191, 0, 0},   {0, 0, 191}};
+
+Rgb hue(int h) // h in 0..1535
+{
+    h %= 1536;
+    const uchar v = uchar(h & 255);
+    switch (h >> 8) {
+    case 0: return {255, v, 0};
+    case 1: return {uchar(255 - v), 255, 0};
+    case 2: return {0, 255, v};
+    case 3: return {0, uchar(255 - v), 255};
+    case 4: return {v, 0, 255};
+    default: return {255, 0, uchar(255 - v)};
+    }
+}
+
+// Colour of input `input` at (x, y) inside a w x h picture at time t.
+inline Rgb pattern(int input, int x, int y, int w, int h, qint64 t)
+{
+    switch (input) {
+    case 0: { // colour bars, a white block sliding along the bottom quarter
+        if (y < h * 3 / 4)
+            return kBars[qMin(6, x * 7 / qMax(1, w))];
+        const int block = qMax(4, w / 10);
+        const int pos = int((t * qMax(1, w) / 4000) % qMax(1, w + block)) - block;
+        return (x >= pos && x < pos + block) ? Rgb{255, 255, 255} : Rgb{16, 16, 16};
+    }
+    case 1: { // moving diagonal gradient
+        const int s = int(t / 8);
+        return {uchar((x * 256 / qMax(1, w) + s) & 255), uchar((y * 256 / qMax(1, h) + s / 2) & 255), 128};
+    }
+    case 2: { // scrolling checkerboard
+        const int cell = qMax(2, h / 12);
+        const int sx = x + int(t * cell / 1000);
+        return ((sx / cell + y / cell) & 1) ? Rgb{0, 128, 128} : Rgb{240, 140, 0};
+    }
+    case 3: // drifting rainbow stripes
+        return hue(int(x * 1536 / qMax(1, w) + t / 4));
+    default: { // grey ramp with a moving bar
+        const int bar = int((t * qMax(1, w) / 3000) % qMax(1, w));
+        if (x >= bar && x < bar + qMax(2, w / 40))
+            return {255, 32, 32};
+        const uchar g = uchar(x * 255 / qMax(1, w - 1));
+        return {g, g, g};
+    }
+    }
+}
+
+} // namespace
+
+Rect pipRect(int width, int height, int position)
+{
+    const int w = width / 3, h = height / 3;
+    const int mx = width / 32, my = height / 18;
+    const int x = (position & 1) ? width - w - mx : mx;
+    const int y = (position & 2) ? height - h - my : my;
+    return {x, y, w, h};
+}
+
+void drawText(uchar *rgb, int width, int height, int x, int y, const QByteArray &text, int scale, Rgb colour)
+{
+    scale = qMax(1, scale);
+    for (int i = 0; i < text.size(); ++i) {
+        const uchar *rows = glyph(text.at(i));
+        const int gx = x + i * 6 * scale;
+        for (int row = 0; row < 7; ++row)
+            for (int col = 0; col < 5; ++col)
+                if (rows[row] & (0x10 >> col))
+                    fill(rgb, width, height, {gx + col * scale, y + row * scale, scale, scale}, colour);
+    }
+}
+
+QByteArray timeCode(qint64 elapsedMs, int fps)
+{
+    fps = qMax(1, fps);
+    const qint64 s = elapsedMs / 1000;
+    const int ff = int((elapsedMs % 1000) * fps / 1000);
+    return QStringLiteral("%1:%2:%3:%4")
+        .arg(s / 3600 % 100, 2, 10, QLatin1Char('0'))
+        .arg(s / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(s % 60, 2, 10, QLatin1Char('0'))
+        .arg(ff, 2, 10, QLatin1Char('0'))
+        .toLatin1();
+}
+
+Rgb signatureColour(int input, bool plugged, qint64 elapsedMs, int x, int y, int w, int h)
+{
+    if (!plugged)
+        return {40, 40, 40};
+    return pattern(input, x, y, w, h, elapsedMs);
+}
+
+void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 t)
+{
+    const int x0 = qMax(0, r.x), y0 = qMax(0, r.y);
+    const int x1 = qMin(width, r.x + r.w), y1 = qMin(height, r.y + r.h);
+    for (int y = y0; y < y1; ++y) {
+        uchar *p = rgb + (size_t(y) * size_t(width) + size_t(x0)) * 3;
+        for (int x = x0; x < x1; ++x, p += 3) {
+            const Rgb c = plugged ? pattern(input, x - r.x, y - r.y, r.w, r.h, t) : Rgb{40, 40, 40};
+            p[0] = c.r;
+            p[1] = c.g;
+            p[2] = c.b;
+        }
+    }
+    const int scale = qMax(1, r.h / 100);
+    const int pad = 2 * scale;
+    const QByteArray name(inputName(input));
+    // The name sits on a dark plate so it reads on any pattern.
+    fill(rgb, width, height, {r.x + pad, r.y + pad, int(name.size()) * 6 * scale + 2 * scale, 9 * scale}, {0, 0, 0});
+    drawText(rgb, width, height, r.x + pad + scale, r.y + pad + scale, name, scale, {255, 255, 255});
+    if (!plugged) {
+        const QByteArray msg("NO SIGNAL");
+        const int s2 = scale * 2;
+        drawText(rgb, width, height, r.x + (r.w - int(msg.size()) * 6 * s2) / 2, r.y + (r.h - 7 * s2) / 2, msg, s2,
+                 {230, 230, 230});
+    }
+}
+
+void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapsedMs, int fps)
+{
+    const auto isPlugged = [&](int i) { return i >= 0 && i < kInputCount && scene.plugged[size_t(i)]; };
+    drawSource(rgb, width, height, {0, 0, width, height}, scene.programme, isPlugged(scene.programme), elapsedMs);
+
+    const int scale = qMax(1, height / 120);
+    const QByteArray tc = timeCode(elapsedMs, fps);
+    const int tx = scale * 2, ty = height - 10 * scale;
+    fill(rgb, width, height, {tx, ty - scale, int(tc.size()) * 6 * scale + 2 * scale, 9 * scale}, {0, 0, 0});
+    drawText(rgb, width, height, tx + scale, ty, tc, scale, {255, 255, 0});
+
+    if (scene.pipOn) {
+        const Rect r = pipRect(width, height, scene.pipPosition);
+        fill(rgb, width, height, {r.x - 2, r.y - 2, r.w + 4, r.h + 4}, {255, 255, 255});
+        drawSource(rgb, width, height, r, scene.pipInput, isPlugged(scene.pipInput), elapsedMs);
+    }
+}
+
+} // namespace Picture
+} // namespace Sim

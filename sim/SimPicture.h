@@ -1,0 +1,56 @@
+#pragma once
+// Draws the preview picture of the simulated programme output into an RGB888
+// buffer: a pattern per input with its name, a running time code, and the
+// PIP source in a corner. Text uses a small built-in 5x7 bitmap font.
+#include "SimState.h"
+
+#include <QByteArray>
+
+#include <array>
+
+namespace Sim {
+
+struct Scene
+{
+    int programme = 0;
+    int pipInput = 1;
+    bool pipOn = false;
+    int pipPosition = 0; // 0 top-left, 1 top-right, 2 bottom-left, 3 bottom-right
+    std::array<bool, kInputCount> plugged{{true, true, true, true, true}};
+
+    static Scene from(const DeviceState &s);
+};
+
+struct Rgb
+{
+    uchar r, g, b;
+};
+
+namespace Picture {
+
+// The rectangle the PIP picture takes for a frame of this size.
+struct Rect
+{
+    int x, y, w, h;
+};
+Rect pipRect(int width, int height, int position);
+
+// Renders a whole frame; elapsedMs drives the motion and the time code.
+void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapsedMs, int fps);
+
+// Draws the pattern of one input into a rectangle of the frame.
+void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 elapsedMs);
+
+// Draws text (upper-case letters, digits, ": - . /" and blanks) at (x, y),
+// each font dot scale x scale pixels; clipped to the frame.
+void drawText(uchar *rgb, int width, int height, int x, int y, const QByteArray &text, int scale, Rgb colour);
+
+// "HH:MM:SS:FF" for a running time.
+QByteArray timeCode(qint64 elapsedMs, int fps);
+
+// The colour of the top-left text-free probe point of an input's pattern
+// (the first bar, the corner of a gradient ...), for checks of what is on show.
+Rgb signatureColour(int input, bool plugged, qint64 elapsedMs, int x, int y, int w, int h);
+
+} // namespace Picture
+} // namespace Sim
