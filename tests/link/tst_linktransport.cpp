@@ -335,6 +335,12 @@ private slots:
         // worker may hold one in flight when the second goes away.
         for (int i = 0; i < 4; ++i)
             fx->proc->setNDISwitch(uchar(i));
+        // Make sure the going one really holds a record (no events served meanwhile).
+        QElapsedTimer waited;
+        waited.start();
+        while (!UiProc::processWorker()->isHandingOver() && waited.elapsed() < 2000)
+            QThread::msleep(1);
+        QVERIFY(UiProc::processWorker()->isHandingOver());
         second.reset();
         QCOMPARE(UiProc::processWorker(), first);
         QSet<QByteArray> got;
