@@ -214,6 +214,7 @@ void UiproGetImageShareData::ReaderState::run()
     std::printf("%s pid:%d, tid:%lu\r\n", "tdGetShareImageData", int(getpid()),
                 static_cast<unsigned long>(pthread_self()));
     std::fflush(stdout);
+    pthread_setname_np(pthread_self(), "csPreviewReader"); // visible in top -H and /proc
     {
         cpu_set_t set;
         CPU_ZERO(&set);

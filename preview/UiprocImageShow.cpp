@@ -34,8 +34,10 @@ QImage UiprocImageProvider::takeForServing()
     QMutexLocker lock(&m_slot->mutex);
     // The screen has fetched: the next frame may signal again.
     m_slot->refreshPending = false;
-    if (!m_slot->frame.isNull())
+    if (!m_slot->frame.isNull()) {
         m_slot->served.fetch_add(1, std::memory_order_relaxed);
+        m_slot->lastServedSerial.store(m_slot->delivered.load(std::memory_order_relaxed), std::memory_order_relaxed);
+    }
     return m_slot->frame; // shallow, shared copy of the handle
 }
 

@@ -20,6 +20,7 @@ struct PreviewFrameSlot
     qint64 pendingSinceMs = 0;
     std::atomic<quint64> served{0};      // frames handed to the engine
     std::atomic<quint64> delivered{0};   // frames stored in the slot
+    std::atomic<quint64> lastServedSerial{0}; // `delivered` count of the frame served last
 };
 
 class UiprocImageProvider : public QQuickImageProvider
@@ -62,6 +63,9 @@ public:
 
     quint64 framesDelivered() const { return m_slot->delivered.load(); }
     quint64 framesServed() const { return m_slot->served.load(); }
+    // Which frame the screen fetched last (1 = the first frame delivered);
+    // framesDelivered() minus this is how far the screen lags behind.
+    quint64 lastServedFrame() const { return m_slot->lastServedSerial.load(); }
 
 signals:
     void callRefreshMainImg();

@@ -1,8 +1,9 @@
 // Preview path throughput: a producer writes 1920x1080 RGB frames as fast as
 // the hand-shake allows into the real reader and provider.
 //   bench_preview [seconds]             reader and provider only
-//   bench_preview --display [seconds]   plus a QML window showing PreviewImage.qml
+//   bench_preview --window [seconds]    plus a QML window showing PreviewImage.qml
 //                                       (run under xvfb-run -a)
+//   --fps N                             pace the producer to N frames/s (default: unthrottled)
 #include "PreviewConvert.h"
 #include "PreviewReaderHooks.h"
 #include "PreviewTestProducer.h"
@@ -17,6 +18,10 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <map>
+#include <string>
+
+#include <dirent.h>
 #include <atomic>
 #include <cstdio>
 #include <cstring>
@@ -125,6 +130,39 @@ double memcpyFromFreshSegmentMs(uint8_t *segment)
     return t[t.size() / 2];
 }
 
+// CPU ms per thread name, from /proc (ticks of 10 ms).
+std::map<std::string, double> threadCpuMs()
+{
+    std::map<std::string, double> out;
+    const long hz = sysconf(_SC_CLK_TCK);
+    DIR *dir = opendir("/proc/self/task");
+    if (!dir)
+        return out;
+    while (dirent *e = readdir(dir)) {
+        if (e->d_name[0] == '.')
+            continue;
+        const std::string base = std::string("/proc/self/task/") + e->d_name;
+        char name[64] = {0};
+        if (FILE *f = fopen((base + "/comm").c_str(), "r")) {
+            if (fgets(name, sizeof name, f))
+                name[strcspn(name, "\n")] = 0;
+            fclose(f);
+        }
+        if (FILE *f = fopen((base + "/stat").c_str(), "r")) {
+            char buf[1024] = {0};
+            const size_t n = fread(buf, 1, sizeof buf - 1, f);
+            fclose(f);
+            buf[n] = 0;
+            const char *p = strrchr(buf, ')');
+            unsigned long ut = 0, st = 0;
+            if (p && sscanf(p + 2, "%*c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %lu %lu", &ut, &st) == 2)
+                out[name] += (ut + st) * 1000.0 / hz;
+        }
+    }
+    closedir(dir);
+    return out;
+}
+
 double pct(std::vector<double> v, double p)
 {
     if (v.empty())
@@ -136,6 +174,7 @@ double pct(std::vector<double> v, double p)
 struct Run
 {
     std::atomic<bool> stop{false};
+    int fps = 0;
     std::vector<qint64> postNs = std::vector<qint64>(1 << 16, 0);
     std::atomic<quint64> produced{0};
     std::atomic<qint64> producerCpuNs{0};
@@ -145,10 +184,18 @@ struct Run
 
     void produce(Producer &p)
     {
+        pthread_setname_np(pthread_self(), "benchProducer");
         const qint64 cpu0 = nowNs(CLOCK_THREAD_CPUTIME_ID);
         std::vector<uint8_t> px = makePattern(W, H, 1);
         quint32 seq = 0;
+        qint64 next = nowNs(CLOCK_MONOTONIC);
         while (!stop.load()) {
+            if (fps > 0) {
+                next += 1000000000LL / fps;
+                const qint64 wait = next - nowNs(CLOCK_MONOTONIC);
+                if (wait > 0)
+                    std::this_thread::sleep_for(std::chrono::nanoseconds(wait));
+            }
             if (!p.acquire(200))
                 continue;
             ++seq;
@@ -179,9 +226,12 @@ int main(int argc, char **argv)
 {
     bool display = false;
     int seconds = 10;
+    int fps = 0;
     for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], "--display") == 0)
+        if (qstrcmp(argv[i], "--window") == 0)
             display = true;
+        else if (qstrcmp(argv[i], "--fps") == 0 && i + 1 < argc)
+            fps = atoi(argv[++i]);
         else if (atoi(argv[i]) > 0)
             seconds = atoi(argv[i]);
     }
@@ -195,6 +245,7 @@ int main(int argc, char **argv)
     const double qtConvMs = qtConvertMs();
     auto *show = new UiprocImageShow;
     Run run;
+    run.fps = fps;
     PreviewReaderHooks::FrameHook hook = [&run](const QImage &f, qint64 d, qint64 c) { run.onFrame(f, d, c); };
     PreviewReaderHooks::setFrameHook(&hook);
 
@@ -249,6 +300,7 @@ int main(int argc, char **argv)
     }
 
     reader->getShareImageData();
+    const auto threads0 = threadCpuMs();
     const double cpu0 = processCpuMs();
     const qint64 t0 = nowNs(CLOCK_MONOTONIC);
     std::thread producerThread([&] { run.produce(producer); });
@@ -263,6 +315,7 @@ int main(int argc, char **argv)
     producerThread.join();
     const double elapsedS = (nowNs(CLOCK_MONOTONIC) - t0) / 1e9;
     const double cpuMs = processCpuMs() - cpu0;
+    const auto threads1 = threadCpuMs();
     reader->stopReader();
     PreviewReaderHooks::setFrameHook(nullptr);
 
@@ -272,7 +325,8 @@ int main(int argc, char **argv)
     for (double c : run.cpuMs)
         cpuSum += c;
     const double readerCpu = frames ? cpuSum / frames : 0;
-    std::printf("frame 1920x1080 RGB888, %d s, memcpy floor %.3f ms/frame\n", seconds, floorMs);
+    std::printf("frame 1920x1080 RGB888, %d s, producer %s, memcpy floor %.3f ms/frame\n", seconds,
+                fps > 0 ? qPrintable(QStringLiteral("paced to %1 frames/s").arg(fps)) : "unthrottled", floorMs);
     std::printf("memcpy with cold caches %.3f ms; RGB888->RGB32 pass %.3f ms (warm); Qt's RGB888->ARGB32PM conversion %.3f ms (new image each time)\n",
                 coldMs, convMs, qtConvMs);
     std::printf("memcpy of a frame out of the segment just written by another thread: %.3f ms\n", segCopyMs);
@@ -291,6 +345,25 @@ int main(int argc, char **argv)
                     (unsigned long long)shown, shown / elapsedS, (unsigned long long)show->framesServed());
         std::printf("display: CPU (reader + GUI + render, producer excluded) %.2f ms per shown frame = %.2f x memcpy\n",
                     shown ? otherCpu / shown : 0, shown && floorMs > 0 ? otherCpu / shown / floorMs : 0);
+        std::printf("display: reader share %.2f ms per shown frame (%.1f frames read per frame shown)\n",
+                shown ? cpuSum / shown : 0, shown ? double(frames) / shown : 0);
+        std::printf("CPU by thread over the run (ms; threads named by Qt/Mesa, 10 ms ticks):");
+        for (const auto &t : threads1) {
+            const auto before = threads0.find(t.first);
+            const double spent = t.second - (before == threads0.end() ? 0 : before->second);
+            if (spent >= 10)
+                std::printf(" %s=%.0f", t.first.c_str(), spent);
+        }
+        std::printf("\n");
+        double noRaster = 0;
+        for (const auto &t : threads1) {
+            if (t.first.rfind("llvmpipe", 0) == 0 || t.first == "benchProducer")
+                continue;
+            const auto before = threads0.find(t.first);
+            noRaster += t.second - (before == threads0.end() ? 0 : before->second);
+        }
+        std::printf("display: CPU without the producer and the software GL rasteriser (llvmpipe, a GPU on the device): %.2f ms per shown frame = %.2f x memcpy\n",
+                    shown ? noRaster / shown : 0, shown && floorMs > 0 ? noRaster / shown / floorMs : 0);
         std::printf("GUI thread: 10 ms timer lateness p50 %.2f ms, p99 %.2f ms, max %.2f ms\n", pct(guiLagMs, 0.5),
                     pct(guiLagMs, 0.99), pct(guiLagMs, 1.0));
     }

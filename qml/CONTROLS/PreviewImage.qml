@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import QtQuick.Window 2.15
 
 // The live preview picture. It follows the frame source's refresh signal and
 // fetches each frame from the "MyMainCodeImg" provider; the changing id
@@ -25,6 +26,47 @@ Item {
         property bool coreSet: false
         property bool live: false
         property int framesShown: 0
+        // One fetch per displayed frame: a fetch made since the last swap
+        // defers the next one to the swap, so a fast producer cannot make
+        // the GUI thread load frames that would never be seen.
+        property bool fetchedSinceSwap: false
+        property bool deferred: false
+
+        function fetch() {
+            picture.source = "image://MyMainCodeImg/" + Math.random()
+            if (picture.status === Image.Ready)
+                framesShown++
+            const win = preview.Window.window
+            fetchedSinceSwap = win !== null && win.visible
+            if (fetchedSinceSwap)
+                swapGuard.restart()
+        }
+    }
+
+    // A window that stops swapping (hidden, minimised) must not hold the
+    // preview back for good.
+    Timer {
+        id: swapGuard
+        interval: 100
+        onTriggered: {
+            d.fetchedSinceSwap = false
+            if (d.deferred && !preview.paused) {
+                d.deferred = false
+                d.fetch()
+            }
+        }
+    }
+
+    Connections {
+        target: preview.Window.window
+        ignoreUnknownSignals: true
+        function onFrameSwapped() {
+            d.fetchedSinceSwap = false
+            if (d.deferred && !preview.paused) {
+                d.deferred = false
+                d.fetch()
+            }
+        }
     }
 
     Image {
@@ -55,9 +97,11 @@ Item {
             staleTimer.restart()
             if (preview.paused)
                 return
-            picture.source = "image://MyMainCodeImg/" + Math.random()
-            if (picture.status === Image.Ready)
-                d.framesShown++
+            if (d.fetchedSinceSwap) {
+                d.deferred = true
+                return
+            }
+            d.fetch()
         }
     }
 }

@@ -5,6 +5,8 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickView>
+#include <QSGRendererInterface>
 #include <QtTest/QtTest>
 
 namespace {
@@ -22,10 +24,16 @@ class TstPreviewQml : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        // No OpenGL in the test environment: the software scene graph also swaps frames.
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    }
     void followsRefreshes();
     void pausedFetchesNothing();
     void goesStaleWithoutFrames();
     void loadsWithoutFrameSource();
+    void fetchesOncePerDisplayedFrame();
 };
 
 struct Harness
@@ -121,6 +129,35 @@ void TstPreviewQml::loadsWithoutFrameSource()
     QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join('\n')));
     QCOMPARE(h.root->property("live").toBool(), false);
     QCOMPARE(h.source(), QString());
+}
+
+void TstPreviewQml::fetchesOncePerDisplayedFrame()
+{
+    QQuickView view;
+    auto *show = new UiprocImageShow(&view);
+    view.engine()->rootContext()->setContextProperty(QStringLiteral("CodeImage"), show);
+    view.engine()->addImageProvider(QStringLiteral("MyMainCodeImg"), show->provider());
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.setSource(kControl);
+    QCOMPARE(view.status(), QQuickView::Ready);
+    view.resize(160, 90);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    int swaps = 0;
+    connect(&view, &QQuickWindow::frameSwapped, this, [&] { ++swaps; }, Qt::DirectConnection);
+
+    // A producer much faster than the display: frames arrive between event
+    // processing, the screen fetches at most one per displayed frame.
+    const int burst = 200;
+    for (int i = 0; i < burst; ++i) {
+        show->deliverFrame(uniform(160, 90, qRgb(i % 256, 40, 80)));
+        QCoreApplication::processEvents();
+    }
+    // The newest frame ends up on the screen.
+    QTRY_COMPARE(show->lastServedFrame(), quint64(burst));
+    const quint64 served = show->framesServed();
+    QVERIFY2(served < quint64(burst) / 2, qPrintable(QStringLiteral("%1 fetches for %2 frames, %3 swaps").arg(served).arg(burst).arg(swaps)));
+    QVERIFY2(served <= quint64(swaps) + 3, qPrintable(QStringLiteral("%1 fetches, %2 swaps").arg(served).arg(swaps)));
 }
 
 QTEST_MAIN(TstPreviewQml)
