@@ -205,5 +205,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TstFormatLists)
+QTEST_GUILESS_MAIN(TstFormatLists)
 #include "tst_formatlists.moc"

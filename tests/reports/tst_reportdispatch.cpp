@@ -376,5 +376,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TstReportDispatch)
+QTEST_GUILESS_MAIN(TstReportDispatch)
 #include "tst_reportdispatch.moc"

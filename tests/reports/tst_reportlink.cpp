@@ -193,5 +193,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TstReportLink)
+QTEST_GUILESS_MAIN(TstReportLink)
 #include "tst_reportlink.moc"
