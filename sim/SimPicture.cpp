@@ -170,7 +170,7 @@ Rgb signatureColour(int input, bool plugged, qint64 elapsedMs, int x, int y, int
     return pattern(input, x, y, w, h, elapsedMs);
 }
 
-void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 t)
+void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 t, bool labelRight)
 {
     const int x0 = qMax(0, r.x), y0 = qMax(0, r.y);
     const int x1 = qMin(width, r.x + r.w), y1 = qMin(height, r.y + r.h);
@@ -187,8 +187,10 @@ void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, boo
     const int pad = 2 * scale;
     const QByteArray name(inputName(input));
     // The name sits on a dark plate so it reads on any pattern.
-    fill(rgb, width, height, {r.x + pad, r.y + pad, int(name.size()) * 6 * scale + 2 * scale, 9 * scale}, {0, 0, 0});
-    drawText(rgb, width, height, r.x + pad + scale, r.y + pad + scale, name, scale, {255, 255, 255});
+    const int plateW = int(name.size()) * 6 * scale + 2 * scale;
+    const int plateX = labelRight ? r.x + r.w - pad - plateW : r.x + pad;
+    fill(rgb, width, height, {plateX, r.y + pad, plateW, 9 * scale}, {0, 0, 0});
+    drawText(rgb, width, height, plateX + scale, r.y + pad + scale, name, scale, {255, 255, 255});
     if (!plugged) {
         const QByteArray msg("NO SIGNAL");
         const int s2 = scale * 2;
@@ -200,7 +202,9 @@ void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, boo
 void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapsedMs, int fps)
 {
     const auto isPlugged = [&](int i) { return i >= 0 && i < kInputCount && scene.plugged[size_t(i)]; };
-    drawSource(rgb, width, height, {0, 0, width, height}, scene.programme, isPlugged(scene.programme), elapsedMs);
+    // A PIP in the top-left corner would hide the name: move it to the right.
+    const bool labelRight = scene.pipOn && scene.pipPosition == 0;
+    drawSource(rgb, width, height, {0, 0, width, height}, scene.programme, isPlugged(scene.programme), elapsedMs, labelRight);
 
     const int scale = qMax(1, height / 120);
     const QByteArray tc = timeCode(elapsedMs, fps);

@@ -38,8 +38,10 @@ Rect pipRect(int width, int height, int position);
 // Renders a whole frame; elapsedMs drives the motion and the time code.
 void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapsedMs, int fps);
 
-// Draws the pattern of one input into a rectangle of the frame.
-void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 elapsedMs);
+// Draws the pattern of one input into a rectangle of the frame, with the
+// input's name in its top-left corner, or top-right when labelRight.
+void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 elapsedMs,
+                bool labelRight = false);
 
 // Draws text (upper-case letters, digits, ": - . /" and blanks) at (x, y),
 // each font dot scale x scale pixels; clipped to the frame.

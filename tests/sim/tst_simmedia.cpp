@@ -143,6 +143,20 @@ private slots:
         QCOMPARE(at(tx + 3 + 1, ty + 1), QStringLiteral("(255,255,0)"));
     }
 
+    void nameMovesRightWhenPipIsTopLeft()
+    {
+        QVector<uchar> frame(kW * kH * 3);
+        Sim::Scene scene;
+        scene.pipOn = true;
+        scene.pipPosition = 0;
+        Sim::Picture::render(frame.data(), kW, kH, scene, 0, 30);
+        auto at = [&](int x, int y) { return rgbText({frame[(y * kW + x) * 3], frame[(y * kW + x) * 3 + 1], frame[(y * kW + x) * 3 + 2]}); };
+        // Plate of "HDMI 1" (6 glyphs x 18 px + 6) ends 6 px from the right edge.
+        const int textX = kW - 6 - (6 * 6 * 3 + 6) + 3;
+        QCOMPARE(at(textX + 1, 6 + 3 + 1), QStringLiteral("(255,255,255)"));
+        QCOMPARE(at(textX + 4, 6 + 3 + 1), QStringLiteral("(0,0,0)"));
+    }
+
     void timeCode_data()
     {
         QTest::addColumn<qint64>("ms");
