@@ -27,7 +27,8 @@ public:
     ~UiProc() override;
 
     // The worker of the live UiProc constructed last (reports are taken from
-    // it). When that UiProc goes, the previous live one's worker takes over.
+    // it). When that UiProc goes, the previous live one's worker takes over;
+    // nullptr while no UiProc lives.
     static biz_CMDSWork *processWorker();
 
     // Day-based diagnostics file, not QML-facing.

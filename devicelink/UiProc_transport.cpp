@@ -140,8 +140,10 @@ void UiProc::teardownTransport()
     {
         QMutexLocker lock(&g_registryLock);
         g_live.removeAll(this);
-        if (g_processWorker == m_worker && !g_live.isEmpty())
-            g_processWorker = g_live.last()->m_worker;
+        // With none left there is no worker to take reports from: say so
+        // (nullptr) rather than hand out one whose loops have ended.
+        if (g_processWorker == m_worker)
+            g_processWorker = g_live.isEmpty() ? nullptr : g_live.last()->m_worker;
     }
     // From here on this worker takes nothing more off the shared queues; a
     // record its loops already hold is waiting for the GUI thread (this

@@ -374,6 +374,16 @@ private slots:
         QCOMPARE(spy.count(), 10);
     }
 
+    void noWorkerWithoutUiProc()
+    {
+        fx->proc.reset();
+        QCOMPARE(UiProc::processWorker(), static_cast<biz_CMDSWork *>(nullptr));
+        fx->proc.reset(new UiProc);
+        QVERIFY(UiProc::processWorker() != nullptr);
+        QSignalSpy spy(fx->proc.get(), &UiProc::uiChangeUI);
+        QVERIFY(reportFlows(spy));
+    }
+
     void destroyedUiProcEndsItsLoops()
     {
         const int before = threadCount();
