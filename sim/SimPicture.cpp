@@ -1,6 +1,7 @@
 #include "SimPicture.h"
 
 #include <cstring>
+#include <vector>
 
 namespace Sim {
 
@@ -174,14 +175,53 @@ void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, boo
 {
     const int x0 = qMax(0, r.x), y0 = qMax(0, r.y);
     const int x1 = qMin(width, r.x + r.w), y1 = qMin(height, r.y + r.h);
+    if (x1 <= x0 || y1 <= y0)
+        return;
+    const size_t rowBytes = size_t(x1 - x0) * 3;
+    // Most patterns repeat whole rows: draw a row once and copy it while the
+    // row key stays the same (-1: every row differs).
+    auto rowKey = [&](int y) {
+        if (!plugged)
+            return 0;
+        switch (input) {
+        case 0: return y < r.h * 3 / 4 ? 0 : 1;
+        case 1: return -1;
+        case 2: return (y / qMax(2, r.h / 12)) & 1;
+        default: return 0;
+        }
+    };
+    std::vector<uchar> gradientRed;
+    if (plugged && input == 1) { // red depends on x only
+        gradientRed.resize(size_t(x1 - x0));
+        for (int x = x0; x < x1; ++x)
+            gradientRed[size_t(x - x0)] = pattern(1, x - r.x, 0, r.w, r.h, t).r;
+    }
+    int lastKey = -2;
+    const uchar *lastRow = nullptr;
     for (int y = y0; y < y1; ++y) {
         uchar *p = rgb + (size_t(y) * size_t(width) + size_t(x0)) * 3;
-        for (int x = x0; x < x1; ++x, p += 3) {
-            const Rgb c = plugged ? pattern(input, x - r.x, y - r.y, r.w, r.h, t) : Rgb{40, 40, 40};
-            p[0] = c.r;
-            p[1] = c.g;
-            p[2] = c.b;
+        const int key = rowKey(y - r.y);
+        if (key >= 0 && key == lastKey && lastRow) {
+            memcpy(p, lastRow, rowBytes);
+            continue;
         }
+        if (!gradientRed.empty()) {
+            const Rgb c = pattern(1, 0, y - r.y, r.w, r.h, t);
+            for (size_t i = 0; i < gradientRed.size(); ++i, p += 3) {
+                p[0] = gradientRed[i];
+                p[1] = c.g;
+                p[2] = c.b;
+            }
+        } else {
+            for (int x = x0; x < x1; ++x, p += 3) {
+                const Rgb c = plugged ? pattern(input, x - r.x, y - r.y, r.w, r.h, t) : Rgb{40, 40, 40};
+                p[0] = c.r;
+                p[1] = c.g;
+                p[2] = c.b;
+            }
+        }
+        lastKey = key;
+        lastRow = rgb + (size_t(y) * size_t(width) + size_t(x0)) * 3;
     }
     const int scale = qMax(1, r.h / 100);
     const int pad = 2 * scale;

@@ -8,10 +8,13 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QSocketNotifier>
 #include <QTimer>
 
 #include <csignal>
+#include <cstdio>
+#include <vector>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -41,6 +44,28 @@ quint16 portFrom(const QCommandLineParser &p, const QCommandLineOption &opt, con
     return quint16(v);
 }
 
+// Drawing cost per frame, so a chosen size and rate can be checked against
+// the frame period without running the whole simulator.
+int benchRender(int width, int height, int fps, int frames)
+{
+    frames = qBound(1, frames, 100000);
+    std::vector<uchar> buffer(size_t(width) * size_t(height) * 3);
+    std::printf("render %dx%d, %d frames per input, PIP on (frame period at %d fps: %.2f ms)\n", width, height, frames, fps,
+                1000.0 / fps);
+    for (int input = 0; input < Sim::kInputCount; ++input) {
+        Sim::Scene scene;
+        scene.programme = input;
+        scene.pipOn = true;
+        scene.pipInput = (input + 1) % Sim::kInputCount;
+        QElapsedTimer t;
+        t.start();
+        for (int i = 0; i < frames; ++i)
+            Sim::Picture::render(buffer.data(), width, height, scene, qint64(i) * 1000 / fps, fps);
+        std::printf("  %-6s %.3f ms/frame\n", Sim::inputName(input), double(t.nsecsElapsed()) / 1e6 / frames);
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -62,7 +87,8 @@ int main(int argc, char **argv)
     const QCommandLineOption noPreviewOpt(QStringLiteral("no-preview"), QStringLiteral("Do not produce preview frames."));
     const QCommandLineOption noAudioOpt(QStringLiteral("no-audio"), QStringLiteral("Do not produce audio levels."));
     const QCommandLineOption removeOpt(QStringLiteral("remove-ipc-on-exit"), QStringLiteral("Remove the shared segments and semaphores on exit."));
-    p.addOptions({portOpt, listenOpt, sizeOpt, fpsOpt, secondsOpt, scriptOpt, verboseOpt, noPreviewOpt, noAudioOpt, removeOpt});
+    const QCommandLineOption benchOpt(QStringLiteral("bench-render"), QStringLiteral("Draw N frames per input at --size, print the time per frame and exit."), QStringLiteral("n"));
+    p.addOptions({portOpt, listenOpt, sizeOpt, fpsOpt, secondsOpt, scriptOpt, verboseOpt, noPreviewOpt, noAudioOpt, removeOpt, benchOpt});
     p.process(app);
 
     bool ok = true;
@@ -92,6 +118,8 @@ int main(int argc, char **argv)
     }
     if (!ok)
         return 2;
+    if (p.isSet(benchOpt))
+        return benchRender(width, height, fps, p.value(benchOpt).toInt());
 
     // Stop cleanly on SIGTERM/SIGINT: the handler only writes to a pipe.
     if (::pipe2(g_signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
