@@ -9,6 +9,7 @@ Item {
     property var firstLevels: null
     property bool levelsMoved: false
     property int cut: -1
+    property bool initSeen: false
 
     UiprocManage { id: manage }
 
@@ -18,7 +19,10 @@ Item {
             probe.cut = sourceIndex
             console.log("PROBE cut " + sourceIndex)
         }
-        function onPushInitInput(mainInput, subInput) { console.log("PROBE init " + mainInput + " " + subInput) }
+        function onPushInitInput(mainInput, subInput) {
+            probe.initSeen = true
+            console.log("PROBE init " + mainInput + " " + subInput)
+        }
     }
     Connections {
         target: CodeImage
@@ -59,7 +63,7 @@ Item {
             if (ticks === 4) manage.uiproc.connectSwitchVideo(2, true)
             if (ticks === 5) manage.uiproc.connectReadInitInput()
             if (ticks % 4 === 0) console.log("PROBE second " + ticks / 4 + " frames " + probe.frames)
-            if ((probe.cut === 2 && probe.frames > 20 && probe.levelsMoved && ticks >= probe.minSeconds * 4) || ticks > 160) {
+            if ((probe.cut === 2 && probe.initSeen && probe.frames > 20 && probe.levelsMoved && ticks >= probe.minSeconds * 4) || ticks > 160) {
                 console.log("PROBE result cut=" + probe.cut + " frames=" + probe.frames + " levelsMoved=" + probe.levelsMoved)
                 Qt.quit()
             }

@@ -15,7 +15,7 @@ namespace {
 quint16 freeUdpPort()
 {
     QUdpSocket s;
-    s.bind(QHostAddress::LocalHost, 0);
+    s.bind(QHostAddress(QHostAddress::LocalHost), 0);
     return s.localPort();
 }
 
