@@ -39,7 +39,7 @@ Rectangle {
     }
 
     Rectangle {
-        anchors { left: parent.left; top: parent.top; margins: Style.frame + Style.gap }
+        anchors { right: parent.right; top: parent.top; margins: Style.frame + Style.gap }
         width: tallyText.width + 2 * Style.gap
         height: tallyText.height + Style.gap
         radius: Style.radius / 2
