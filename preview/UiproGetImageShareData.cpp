@@ -240,7 +240,7 @@ void UiproGetImageShareData::ReaderState::run()
         if (n > kPixelArea || w > 32767 || h > 32767) {
             // Never read past the segment, whatever the header says.
             release();
-            refuse("larger than the frame buffer", w, h);
+            refuse(n > kPixelArea ? "larger than the frame buffer" : "wider or taller than an image can be", w, h);
             continue;
         }
         uint8_t *pixels = nullptr;
@@ -259,8 +259,7 @@ void UiproGetImageShareData::ReaderState::run()
         PreviewConvert::rgb888ToRgb32(segment + kHeaderSize, size_t(w) * 3u, pixels,
                                       size_t(frame.bytesPerLine()), int(w), int(h));
         release();
-        if (UiprocImageShow *show = UiprocImageShow::instance())
-            show->deliverFrame(frame);
+        UiprocImageShow::deliverToCurrent(frame);
         if (PreviewReaderHooks::FrameHook *hook = PreviewReaderHooks::g_hook.load())
             (*hook)(frame, nowNs(CLOCK_MONOTONIC), nowNs(CLOCK_THREAD_CPUTIME_ID) - cpuStart);
     }

@@ -11,6 +11,8 @@
 
 namespace {
 std::atomic<UiprocImageShow *> g_lastShow{nullptr};
+// Held while the reader hands a frame over and while an instance goes away.
+QMutex g_lastShowMutex;
 
 qint64 monotonicMs()
 {
@@ -62,11 +64,13 @@ UiprocImageShow::UiprocImageShow(QObject *parent)
     , m_slot(std::make_shared<PreviewFrameSlot>())
     , m_provider(new UiprocImageProvider(m_slot))
 {
+    QMutexLocker lock(&g_lastShowMutex);
     g_lastShow.store(this);
 }
 
 UiprocImageShow::~UiprocImageShow()
 {
+    QMutexLocker lock(&g_lastShowMutex);
     UiprocImageShow *self = this;
     g_lastShow.compare_exchange_strong(self, nullptr);
     // The provider belongs to the engine once installed; a provider that was
@@ -77,6 +81,16 @@ UiprocImageShow::~UiprocImageShow()
 UiprocImageShow *UiprocImageShow::instance()
 {
     return g_lastShow.load();
+}
+
+bool UiprocImageShow::deliverToCurrent(const QImage &frame)
+{
+    QMutexLocker lock(&g_lastShowMutex);
+    UiprocImageShow *show = g_lastShow.load();
+    if (!show)
+        return false;
+    show->deliverFrame(frame);
+    return true;
 }
 
 void UiprocImageShow::setMainImage(QImage image, int width, int height)

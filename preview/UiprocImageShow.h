@@ -51,6 +51,9 @@ public:
 
     // The instance constructed last; the frame reader feeds it.
     static UiprocImageShow *instance();
+    // Hands a frame to the instance constructed last, if any; safe against
+    // that instance being destroyed meanwhile. False when there is none.
+    static bool deliverToCurrent(const QImage &frame);
 
     // Takes a frame the caller no longer writes to (no deep copy). Used by the
     // frame reader, whose images are already in the display format.

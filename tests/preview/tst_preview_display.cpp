@@ -32,6 +32,7 @@ private slots:
     void servedFrameIsNewest();
     void rearmsWhenNobodyFetches();
     void concurrentReadersSeeWholeFrames();
+    void instancesComeAndGoWhileFed();
 };
 
 void TstPreviewDisplay::nullBeforeFirstFrame()
@@ -112,10 +113,14 @@ void TstPreviewDisplay::lastConstructedIsFed()
     QCOMPARE(UiprocImageShow::instance(), first);
     auto *second = new UiprocImageShow;
     QCOMPARE(UiprocImageShow::instance(), second);
+    QVERIFY(UiprocImageShow::deliverToCurrent(uniform(4, 4, qRgb(7, 8, 9))));
+    QCOMPARE(second->framesDelivered(), quint64(1));
+    QCOMPARE(first->framesDelivered(), quint64(0));
     delete second->provider();
     delete second;
     // Nothing points at a destroyed object.
     QCOMPARE(UiprocImageShow::instance(), nullptr);
+    QVERIFY(!UiprocImageShow::deliverToCurrent(uniform(4, 4, qRgb(7, 8, 9))));
     delete first->provider();
     delete first;
 }
@@ -206,6 +211,30 @@ void TstPreviewDisplay::concurrentReadersSeeWholeFrames()
     QCOMPARE(torn.load(), 0);
     QVERIFY(reads.load() > 0);
     delete show.provider();
+}
+
+void TstPreviewDisplay::instancesComeAndGoWhileFed()
+{
+    // The reader keeps handing frames over while screens create and destroy
+    // display objects: a frame never reaches a destroyed one.
+    std::atomic<bool> stop{false};
+    std::atomic<int> handed{0};
+    const QImage frame = uniform(32, 32, qRgb(1, 2, 3));
+    std::thread feeder([&] {
+        while (!stop.load()) {
+            if (UiprocImageShow::deliverToCurrent(frame))
+                handed.fetch_add(1);
+        }
+    });
+    for (int i = 0; i < 300; ++i) {
+        auto *show = new UiprocImageShow;
+        QThread::usleep(100);
+        delete show->provider();
+        delete show;
+    }
+    stop.store(true);
+    feeder.join();
+    QVERIFY(handed.load() > 0);
 }
 
 QTEST_MAIN(TstPreviewDisplay)

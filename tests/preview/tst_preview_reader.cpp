@@ -100,6 +100,7 @@ void TstPreviewReader::cleanupTestCase()
     delete m_reader;
     m_producer->removeAll();
     delete m_producer;
+    delete m_show->provider(); // never installed in an engine here
     delete m_show;
     qInstallMessageHandler(g_previous);
 }
