@@ -44,6 +44,8 @@ model_Protocoldata report(uchar cmd, uchar d1 = 0, uchar d2 = 0, uchar d3 = 0, u
 
 // The front end reads block lengths as signed 16-bit: stay below 0x8000.
 constexpr int kMaxBlock = 0x7fff;
+// Names the device keeps (NDI group, channel, device).
+constexpr int kMaxNameBytes = 255;
 
 model_Protocoldata blockReport(uchar d1, uchar d2, QByteArray block)
 {
@@ -715,6 +717,10 @@ QVector<Report> Device::onBluetoothDisconnect(const model_Protocoldata &c)
 QVector<Report> Device::onNdiSet(const model_Protocoldata &c)
 {
     const QByteArray &b = c.arryDatablock;
+    if (c.DAT2 <= 2 && b.size() > kMaxNameBytes) {
+        reject(c, QStringLiteral("name of %1 bytes, at most %2").arg(b.size()).arg(kMaxNameBytes));
+        return {};
+    }
     switch (c.DAT2) {
     case 0: m_state.ndiGroup = b; break;
     case 1: m_state.ndiChannel = b; break;

@@ -178,6 +178,10 @@ void Server::apply(const ScriptEvent &e)
         rec.DAT4 = uchar(e.args[4]);
         break;
     }
+    if (rec.CMD == 0xF1 && combineTwoByte(rec.DAT3, rec.DAT4) != 0)
+        qCWarning(lcSim).noquote() << QStringLiteral("script line %1: an 0xF1 report announcing %2 block bytes, none follow")
+                                          .arg(e.line)
+                                          .arg(combineTwoByte(rec.DAT3, rec.DAT4));
     qCInfo(lcSim).noquote() << QStringLiteral("script line %1: report %2").arg(e.line).arg(QString::fromLatin1(ProtocolFrame::build(rec, 'F')));
     sendUnsolicited(rec);
     emit stateChanged();

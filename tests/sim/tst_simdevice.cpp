@@ -6,6 +6,7 @@
 #include "SimServer.h"
 #include "SimTestSupport.h"
 
+#include <QRandomGenerator>
 #include <QtTest>
 
 using SimTest::cmd;
@@ -401,6 +402,68 @@ private slots:
         QCOMPARE(s.errors.size(), errors);
         if (firstAtMs >= 0)
             QCOMPARE(s.events.first().atMs, firstAtMs);
+    }
+
+    // Mutated and random datagrams: never a crash, an answer only with a
+    // header the front end accepts, and the state stays in range.
+    void hostileDatagramsLeaveADeviceInRange()
+    {
+        QRandomGenerator rng(20261122);
+        const QVector<Vector> all = vectors();
+        Sim::Device device;
+        int answered = 0;
+        for (int i = 0; i < 20000; ++i) {
+            QByteArray d = all.at(int(rng.bounded(all.size()))).frame;
+            switch (rng.bounded(6)) {
+            case 5: { // a known command with random arguments
+                model_Protocoldata r;
+                QString why;
+                if (Sim::Server::parseCommand(d, &r, &why)) {
+                    r.DAT2 = uchar(rng.bounded(256));
+                    if (r.CMD != 0xF0) {
+                        r.DAT3 = uchar(rng.bounded(256));
+                        r.DAT4 = uchar(rng.bounded(256));
+                    }
+                    d = ProtocolFrame::build(r, 'T');
+                }
+                break;
+            }
+            case 0: d[int(rng.bounded(d.size()))] = char(rng.bounded(256)); break;
+            case 1: d.truncate(int(rng.bounded(d.size() + 1))); break;
+            case 2: d.append(QByteArray(int(rng.bounded(600)), char(rng.bounded(256)))); break;
+            case 3: {
+                d = QByteArray(int(rng.bounded(64)), '\0');
+                for (char &c : d)
+                    c = char(rng.bounded(256));
+                break;
+            }
+            default: { // a well-formed frame with random bytes
+                d = cmd(int(rng.bounded(256)), int(rng.bounded(256)), int(rng.bounded(256)), int(rng.bounded(256)),
+                        int(rng.bounded(256)));
+                break;
+            }
+            }
+            model_Protocoldata rec;
+            QString why;
+            if (!Sim::Server::parseCommand(d, &rec, &why))
+                continue;
+            for (const Sim::Report &r : device.handle(rec)) {
+                ++answered;
+                const QByteArrayList out = Sim::Device::datagrams(r.rec);
+                ProtocolFrame::ParseError e = ProtocolFrame::ParseError::WrongSize;
+                ProtocolFrame::parseReport(out.first(), &e);
+                QCOMPARE(int(e), int(ProtocolFrame::ParseError::None));
+                int block = 0;
+                for (int k = 1; k < out.size(); ++k)
+                    block += out.at(k).size();
+                QCOMPARE(block, r.rec.CMD == 0xF1 ? int(combineTwoByte(r.rec.DAT3, r.rec.DAT4)) : 0);
+            }
+            const Sim::DeviceState &s = device.state();
+            QVERIFY(s.programme >= 0 && s.programme < Sim::kInputCount);
+            QVERIFY(s.sub >= 0 && s.sub < Sim::kInputCount);
+            QVERIFY(s.ndiGroup.size() <= 255 && s.ndiChannel.size() <= 255 && s.ndiDevice.size() <= 255);
+        }
+        QVERIFY(answered > 1000); // the mutations still reach the handlers
     }
 
     void rawScriptReport()
