@@ -46,5 +46,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TstLinkQml)
+QTEST_GUILESS_MAIN(TstLinkQml)
 #include "tst_linkqml.moc"
