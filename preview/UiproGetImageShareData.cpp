@@ -63,6 +63,10 @@ constexpr int kBackoffMs = 200;
 constexpr int kWaitSliceMs = 200;
 constexpr int kPoolMax = 6;
 constexpr int kReaderCpu = 4;
+// Frames are taken at most this often (250 per second, above any display
+// rate): a runaway producer cannot make the reader burn a core on frames
+// no screen will show. A producer at display rates never waits for it.
+constexpr qint64 kMinFrameIntervalNs = 4000000;
 
 } // namespace
 
@@ -223,9 +227,14 @@ void UiproGetImageShareData::ReaderState::run()
         (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
     }
 
+    qint64 lastFrameNs = 0;
     while (!stop.load()) {
+        const qint64 early = lastFrameNs + kMinFrameIntervalNs - nowNs(CLOCK_MONOTONIC);
+        if (early > 0)
+            std::this_thread::sleep_for(std::chrono::nanoseconds(early));
         if (!waitReady())
             continue;
+        lastFrameNs = nowNs(CLOCK_MONOTONIC);
         const qint64 cpuStart = nowNs(CLOCK_THREAD_CPUTIME_ID);
         quint32 w = 0, h = 0;
         std::memcpy(&w, segment, 4);
