@@ -171,8 +171,15 @@ private slots:
 
     // ---- the executable ----
 
-    void executableAnswersRunsScriptAndStopsOnSigterm()
+    void executableAnswersRunsScriptAndStopsOnSignal_data()
     {
+        QTest::addColumn<int>("signalNumber");
+        QTest::newRow("SIGTERM") << int(SIGTERM);
+        QTest::newRow("SIGINT") << int(SIGINT);
+    }
+    void executableAnswersRunsScriptAndStopsOnSignal()
+    {
+        QFETCH(int, signalNumber);
         const quint16 port = freePort();
         QUdpSocket frontEnd;
         QVERIFY(frontEnd.bind(QHostAddress(QHostAddress::LocalHost), 0));
@@ -196,7 +203,7 @@ private slots:
         }
         QCOMPARE(answer, QByteArrayList{"<F00006a0102030070>"});
         QCOMPARE(receive(frontEnd, 1, 3000), QByteArrayList{"<F0000d004010200d7>"});
-        ::kill(pid_t(sim.processId()), SIGTERM);
+        ::kill(pid_t(sim.processId()), signalNumber);
         QVERIFY(sim.waitForFinished(5000));
         QCOMPARE(sim.exitStatus(), QProcess::NormalExit);
         QCOMPARE(sim.exitCode(), 0);
