@@ -320,7 +320,8 @@ std::array<int, kAudioLevels> AudioProducer::levels(const Scene &scene, qint64 e
     for (int i = 0; i < kAudioLevels; ++i) {
         // Two beating sines per slot make a lively but reproducible meter.
         const double wobble = std::sin(t * (2.1 + 0.37 * i) + i) * 0.6 + std::sin(t * (5.3 + 0.11 * i) + 2 * i) * 0.4;
-        out[size_t(i)] = int(std::lround(18 + 8 * wobble));
+        // Around the middle of the meters' 40-80 display range, so every meter visibly moves.
+        out[size_t(i)] = int(std::lround(52 + 10 * wobble));
     }
     const int prog = levelIndex(scene.programme);
     for (int input = 0; input < kInputCount; ++input)
