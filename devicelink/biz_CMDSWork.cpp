@@ -61,18 +61,34 @@ void biz_CMDSWork::x1_GetQueueWork()
 
 void biz_CMDSWork::x1_receiveGetQueueWork()
 {
+    // Takes every report queued so far in one go and hands them over one at
+    // a time, in order. Between two of them this loop then needs no lock, so
+    // the next report is already posted to the GUI thread while that thread
+    // sleeps in its paced enqueue, instead of after it.
+    QList<model_Protocoldata> batch;
     while (bReceiveRun.load()) {
-        model_Protocoldata rec;
         {
             QMutexLocker lock(&receiveHexCmdlock);
             while (bReceiveRun.load() && receivequeueHexCmd.isEmpty())
                 receiveHexCmdReady.wait(&receiveHexCmdlock, kIdleWaitMs);
             if (!bReceiveRun.load())
                 return;
-            rec = receivequeueHexCmd.takeFirst();
+            batch.swap(receivequeueHexCmd);
             ++m_inFlight;
         }
-        emit signalSendReceiveMessage(rec);
+        int handed = 0;
+        while (handed < batch.size() && (handed == 0 || bReceiveRun.load())) {
+            emit signalSendReceiveMessage(batch.at(handed));
+            ++handed;
+        }
+        if (handed < batch.size()) {
+            // Stopped part-way: the rest goes back to the front of the shared
+            // queue, in order, for a worker that still runs.
+            QMutexLocker lock(&receiveHexCmdlock);
+            receivequeueHexCmd = batch.mid(handed) + receivequeueHexCmd;
+            receiveHexCmdReady.wakeAll();
+        }
+        batch.clear();
         --m_inFlight;
     }
 }
