@@ -94,9 +94,11 @@ private slots:
         QFETCH(QString, journal);
         TestSysroot root;
         QVERIFY(root.isValid());
-        const int status = Shell::system(line.arg(root.root()));
+        const int status = Shell::system(line.contains(QLatin1String("%1")) ? line.arg(root.root()) : line);
         QVERIFY(status != -1);
-        QTRY_COMPARE(root.commands(), QStringList{journal});
+        // The kill pipeline reads the host's process list (read-only); whatever it found, only the stand-in "killed".
+        QTRY_COMPARE(root.commands().size(), 1);
+        QVERIFY2(root.commands().constFirst().startsWith(journal), qPrintable(root.commands().constFirst()));
     }
 
     void hostProgramsAreOutOfReach()
