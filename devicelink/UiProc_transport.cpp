@@ -28,14 +28,15 @@ QMutex g_registryLock;
 QList<UiProc *> g_live;
 biz_CMDSWork *g_processWorker = nullptr;
 
-quint16 portFromEnvironment(const char *name, quint16 fallback)
+// allowZero: the listening port may be 0, "any free port" (tests, parallel runs).
+quint16 portFromEnvironment(const char *name, quint16 fallback, bool allowZero)
 {
     const QByteArray text = qgetenv(name);
     if (text.isEmpty())
         return fallback;
     bool ok = false;
     const uint port = text.toUInt(&ok);
-    if (!ok || port == 0 || port > 65535) {
+    if (!ok || (port == 0 && !allowZero) || port > 65535) {
         writeLog(QStringLiteral("UiProc: ignoring %1=\"%2\", not a port number; using %3")
                      .arg(QLatin1String(name), QString::fromLatin1(text.toPercentEncoding()))
                      .arg(fallback));
@@ -158,8 +159,8 @@ void UiProc::teardownTransport()
 
 void UiProc::setupSockets()
 {
-    m_destPort = portFromEnvironment("CS_MEDIA_PORT", 5560);
-    m_listenPort = portFromEnvironment("CS_LISTEN_PORT", 1259);
+    m_destPort = portFromEnvironment("CS_MEDIA_PORT", 5560, false);
+    m_listenPort = portFromEnvironment("CS_LISTEN_PORT", 1259, true);
     // The command socket is bound by the system on its first send.
     m_cmdSocket = new QUdpSocket(this);
     m_listenSocket = new QUdpSocket(this);

@@ -13,7 +13,9 @@
     </message>
     <message numerus="yes">
         <source>%n channel(s) live</source>
-        <translation><numerusform>%n 路直播中</numerusform></translation>
+        <translation>
+            <numerusform>%n 路直播中</numerusform>
+        </translation>
     </message>
     <message>
         <source>No channel live</source>
@@ -101,14 +103,6 @@
         <translation>线路</translation>
     </message>
     <message>
-        <source>CAM 1</source>
-        <translation>摄像头1</translation>
-    </message>
-    <message>
-        <source>CAM 2</source>
-        <translation>摄像头2</translation>
-    </message>
-    <message>
         <source>NDI</source>
         <translation>NDI</translation>
     </message>
@@ -119,6 +113,22 @@
     <message>
         <source>EAR</source>
         <translation>耳机</translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation>HDMI1</translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation>HDMI2</translation>
+    </message>
+    <message>
+        <source>CAM1</source>
+        <translation>摄像1</translation>
+    </message>
+    <message>
+        <source>CAM2</source>
+        <translation>摄像2</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,10 @@
     </message>
     <message numerus="yes">
         <source>%n channel(s) live</source>
-        <translation><numerusform>%n Kanal live</numerusform><numerusform>%n Kanäle live</numerusform></translation>
+        <translation>
+            <numerusform>%n Kanal live</numerusform>
+            <numerusform>%n Kanäle live</numerusform>
+        </translation>
     </message>
     <message>
         <source>No channel live</source>
@@ -101,14 +104,6 @@
         <translation>LINE</translation>
     </message>
     <message>
-        <source>CAM 1</source>
-        <translation>KAM 1</translation>
-    </message>
-    <message>
-        <source>CAM 2</source>
-        <translation>KAM 2</translation>
-    </message>
-    <message>
         <source>NDI</source>
         <translation>NDI</translation>
     </message>
@@ -119,6 +114,22 @@
     <message>
         <source>EAR</source>
         <translation>KOPFH.</translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation>HDMI1</translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation>HDMI2</translation>
+    </message>
+    <message>
+        <source>CAM1</source>
+        <translation>KAM1</translation>
+    </message>
+    <message>
+        <source>CAM2</source>
+        <translation>KAM2</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,10 @@
     </message>
     <message numerus="yes">
         <source>%n channel(s) live</source>
-        <translation><numerusform>%n channel live</numerusform><numerusform>%n channels live</numerusform></translation>
+        <translation>
+            <numerusform>%n channel live</numerusform>
+            <numerusform>%n channels live</numerusform>
+        </translation>
     </message>
     <message>
         <source>No channel live</source>
@@ -101,14 +104,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>CAM 1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>CAM 2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>NDI</source>
         <translation type="unfinished"></translation>
     </message>
@@ -118,6 +113,22 @@
     </message>
     <message>
         <source>EAR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HDMI1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HDMI2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CAM1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CAM2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

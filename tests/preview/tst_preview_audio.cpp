@@ -13,6 +13,15 @@
 
 using namespace PreviewTest;
 
+// The poller emits from its own thread. QSignalSpy records in the emitting
+// thread, so relay the signal, queued, to this thread first (as QML gets it).
+class LevelsRelay : public QObject
+{
+    Q_OBJECT
+signals:
+    void updateVoise(int, int, int, int, int, int, int, int, int);
+};
+
 class TstPreviewAudio : public QObject
 {
     Q_OBJECT
@@ -36,7 +45,9 @@ void TstPreviewAudio::levelsArriveInOrder()
         words[i] = 99;
 
     UiproGetAudioShareData audio;
-    QSignalSpy levels(&audio, &UiproGetAudioShareData::updateVoise);
+    LevelsRelay relay;
+    connect(&audio, &UiproGetAudioShareData::updateVoise, &relay, &LevelsRelay::updateVoise, Qt::QueuedConnection);
+    QSignalSpy levels(&relay, &LevelsRelay::updateVoise);
     QElapsedTimer clock;
     clock.start();
     audio.getShareAudioData();
