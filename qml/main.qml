@@ -29,6 +29,11 @@ Window {
         manage.uiproc.readInitConfig()
         var settings = manage.uiproc.getIniData()
         mainView.portrait = settings.lcdRotation !== undefined && settings.lcdRotation !== 0
+        if (mainView.portrait && !onDevice) {
+            // A rotated panel: the desktop window takes the panel's portrait shape.
+            window.width = 1080
+            window.height = 1920
+        }
         live.loadSettings(settings)
         manage.uiproc.writeLog("qml start share image")
         manage.uiprocGetImageShareData.getShareImageData()

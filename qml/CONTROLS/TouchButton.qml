@@ -32,6 +32,9 @@ Rectangle {
             color: Style.text
             font.pixelSize: Style.fontNormal
             font.bold: true
+            // Long (German) labels shrink a little before they are cut.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Style.fontSmall
             elide: Text.ElideRight
         }
         Text {

@@ -13,11 +13,13 @@ Rectangle {
     property bool linkAlive: false
     property string clock: ""
 
-    height: Style.statusHeight
+    // A narrow (portrait) panel puts the link mark and the clock on a second line.
+    readonly property bool compact: width < 1500
+    height: compact ? 2 * Style.statusHeight : Style.statusHeight
     color: Style.surface
 
     Row {
-        anchors { left: parent.left; leftMargin: Style.gap; verticalCenter: parent.verticalCenter }
+        anchors { left: parent.left; leftMargin: Style.gap; top: parent.top }
         spacing: Style.gap * 2
 
         Repeater {
@@ -45,7 +47,7 @@ Rectangle {
         }
     }
     Row {
-        anchors { right: parent.right; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; rightMargin: Style.gap; bottom: parent.bottom }
         spacing: Style.gap * 2
         StatusChip {
             objectName: "linkChip"
@@ -53,7 +55,8 @@ Rectangle {
             mark: bar.linkAlive ? Style.onPip : Style.attention
         }
         Text {
-            anchors.verticalCenter: parent.verticalCenter
+            height: Style.statusHeight
+            verticalAlignment: Text.AlignVCenter
             text: bar.clock
             color: Style.text
             font.pixelSize: Style.fontNormal

@@ -1,0 +1,120 @@
+import QtQuick 2.15
+import QtTest 1.2
+import "qrc:/Public"
+
+// The live store against fake native objects: reports change its state,
+// actions send the right commands and save the right keys.
+TestCase {
+    name: "LiveStore"
+
+    QtObject {
+        id: fakeManage
+        property var sent: []
+        property var saved: []
+        function note(what) { var s = sent.slice(); s.push(what); sent = s }
+
+        property QtObject uiproc: QtObject {
+            function connectSwitchVideo(channel, outPGM) { fakeManage.note("switch " + channel + " " + outPGM) }
+            function connectSetPIP(type, position) { fakeManage.note("pip " + type + " " + position) }
+            function connectRec(type, code) { fakeManage.note("rec " + type + " " + code) }
+            function connectGetUSBStatus() { fakeManage.note("usb?") }
+            function writeInitConfig(obj) { var s = fakeManage.saved.slice(); s.push(JSON.stringify(obj)); fakeManage.saved = s }
+        }
+        property QtObject uiproVideo: QtObject {
+            signal pushPGMCutFinish(int sourceIndex)
+            signal pushInitInput(int mainInput, int subInput)
+            signal pushInputInitiative(int status, int inputID)
+            signal pushInputFormatInitiative(int type, var format)
+            signal pushRecordingStatus(int status)
+            signal pushRtmpStatus(int channel, int status)
+            signal pushUSBStatus(int status)
+            signal pushUSBInitiative(int status)
+            signal pushLocalIP(string localIP)
+        }
+        property QtObject uiprocGetAudioShareData: QtObject {
+            signal updateVoise(int a, int b, int c, int d, int e, int f, int g, int h, int i)
+        }
+    }
+
+    LiveStore { id: store; manage: fakeManage }
+
+    function init() {
+        fakeManage.sent = []
+        fakeManage.saved = []
+        store.recording = false
+        store.streams = [0, 0, 0, 0]
+    }
+
+    function test_cutFinishedMovesTheTallyAndIsSaved() {
+        fakeManage.uiproVideo.pushPGMCutFinish(3)
+        compare(store.programmeInput, 3)
+        compare(fakeManage.saved, ['{"inputType":3}'])
+        verify(store.linkAlive)
+    }
+
+    function test_switchSendsCommandsOnly() {
+        store.switchProgramme(2)
+        compare(fakeManage.sent, ["switch 2 true"])
+        compare(store.programmeInput === 2, false, "the tally waits for the device's answer")
+        store.switchPip(1)
+        compare(fakeManage.sent, ["switch 2 true", "switch 1 false"])
+        compare(fakeManage.saved, ['{"inputType2":1}'])
+    }
+
+    function test_pipAndRecordCommands() {
+        store.pipLayout = 2
+        store.setPip(true)
+        store.startRecording()
+        store.stopRecording()
+        compare(fakeManage.sent, ["pip 1 2", "rec 1 1", "rec 1 2"])
+        compare(fakeManage.saved, ['{"pipModeOpen":1}'])
+    }
+
+    function test_recordingStatusStartsTheClock() {
+        fakeManage.uiproVideo.pushRecordingStatus(1)
+        verify(store.recording)
+        verify(store.onAir)
+        verify(Math.abs(store.recordStartMs - Date.now()) < 5000)
+        fakeManage.uiproVideo.pushRecordingStatus(0)
+        verify(!store.recording)
+        compare(JSON.parse(fakeManage.saved[1]).recordStartTime, "")
+    }
+
+    function test_streamStatusPerChannel_data() {
+        return [{ tag: "channel 0 on", channel: 0, status: 1, streaming: true },
+                { tag: "channel 3 on", channel: 3, status: 1, streaming: true },
+                { tag: "out of range ignored", channel: 7, status: 1, streaming: false }]
+    }
+    function test_streamStatusPerChannel(data) {
+        fakeManage.uiproVideo.pushRtmpStatus(data.channel, data.status)
+        compare(store.streaming, data.streaming)
+        compare(store.onAir, data.streaming)
+    }
+
+    function test_inputPresenceAndFormat() {
+        fakeManage.uiproVideo.pushInputInitiative(0, 1)
+        compare(store.inputPresent[1], false)
+        fakeManage.uiproVideo.pushInputInitiative(1, 1)
+        compare(store.inputPresent[1], true)
+        fakeManage.uiproVideo.pushInputInitiative(1, 9) // unknown input: ignored
+        fakeManage.uiproVideo.pushInputFormatInitiative(2, { "DataType": 0, "width": 1280, "height": 720, "Fps": 50 })
+        compare(store.inputFormat[2], "1280x720 50")
+        fakeManage.uiproVideo.pushInputFormatInitiative(3, {})
+        compare(store.inputFormat[3], "")
+    }
+
+    function test_levelsInOrder() {
+        fakeManage.uiprocGetAudioShareData.updateVoise(1, 2, 3, 4, 5, 6, 7, 8, 9)
+        compare(store.levels, [1, 2, 3, 4, 5, 6, 7, 8, 9])
+    }
+
+    function test_settingsLoaded() {
+        store.loadSettings({ "inputType": 1, "inputType2": 3, "pipModeOpen": 1, "pipModeSelect": 2, "recordStatus": 0 })
+        compare(store.programmeInput, 1)
+        compare(store.pipInput, 3)
+        verify(store.pipOn)
+        compare(store.pipLayout, 2)
+        store.loadSettings({}) // missing keys keep what is there
+        compare(store.programmeInput, 1)
+    }
+}
