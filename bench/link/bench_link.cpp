@@ -8,6 +8,7 @@
 // The log switch is on as in the shipped settings (every send and receive
 // writes its lines); --quiet-log turns it off to see the link alone.
 #include "Logger.h"
+#include "ReportFrame.h"
 #include "UiProc.h"
 #include "UiprocVideo_Desktop.h"
 #include "biz_CMDSWork.h"
@@ -47,19 +48,6 @@ double percentile(std::vector<double> v, double p)
     return v[i];
 }
 
-QByteArray reportFrame(uchar cmd, uchar d1, uchar d2, uchar d3, uchar d4)
-{
-    const uchar bytes[7] = {0, 0, cmd, d1, d2, d3, d4};
-    uchar sum = 0;
-    QByteArray text("<F");
-    for (uchar b : bytes) {
-        sum = uchar(sum + b);
-        text += QByteArray::number(b, 16).rightJustified(2, '0');
-    }
-    text += QByteArray::number(sum, 16).rightJustified(2, '0');
-    text += '>';
-    return text;
-}
 
 // Serves events until done() or the time-out; false on time-out. Sleeps
 // in the event loop between events (a coarse heartbeat bounds the wait).

@@ -4,6 +4,7 @@
 // environment, and captures of log lines and of the records the receive
 // loop hands over.
 #include "Logger.h"
+#include "ReportFrame.h"
 #include "ProtocolFrame.h"
 #include "TestSysroot.h"
 #include "UiProc.h"
@@ -41,20 +42,6 @@ inline int sharedReportQueueSize()
     return biz_CMDSWork::receivequeueHexCmd.size();
 }
 
-// A report frame from the service ("<F", lower-case digits, our own checksum).
-inline QByteArray reportFrame(uchar cmd, uchar d1 = 0, uchar d2 = 0, uchar d3 = 0, uchar d4 = 0)
-{
-    const uchar bytes[7] = {0, 0, cmd, d1, d2, d3, d4};
-    uchar sum = 0;
-    QByteArray text("<F");
-    for (uchar b : bytes) {
-        sum = uchar(sum + b);
-        text += QByteArray::number(b, 16).rightJustified(2, '0');
-    }
-    text += QByteArray::number(sum, 16).rightJustified(2, '0');
-    text += '>';
-    return text;
-}
 
 // Every message of every category, kept with its category name.
 class MessageCapture

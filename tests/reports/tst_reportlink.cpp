@@ -3,6 +3,7 @@
 // UiprocVideo_Desktop as push signals, exactly once per report while
 // connected and not at all after bizDisconnect.
 #include "Logger.h"
+#include "ReportFrame.h"
 #include "TestSysroot.h"
 #include "UiProc.h"
 #include "UiprocVideo_Desktop.h"
@@ -24,18 +25,6 @@ quint16 freeUdpPort()
     return probe.localPort();
 }
 
-// A report frame as the service sends it: "<F", sixteen hex digits, ">".
-QByteArray reportFrame(uchar cmd, uchar d1 = 0, uchar d2 = 0, uchar d3 = 0, uchar d4 = 0)
-{
-    const uchar fields[7] = {0, 0, cmd, d1, d2, d3, d4};
-    uchar sum = 0;
-    QByteArray text("<F");
-    for (uchar b : fields) {
-        sum = uchar(sum + b);
-        text += QByteArray::number(b, 16).rightJustified(2, '0');
-    }
-    return text + QByteArray::number(sum, 16).rightJustified(2, '0') + '>';
-}
 
 void clearSharedQueues()
 {
