@@ -2,6 +2,7 @@
 #include "TestSysroot.h"
 #include "Translations.h"
 #include "UiprocMain_Desktop.h"
+#include "UiprocPublic.h"
 
 #include <QCoreApplication>
 #include <QQmlComponent>
@@ -121,6 +122,24 @@ private slots:
         main->setLanguage(-1);
         QCOMPARE(root->property("label").toString(), text);
         QCOMPARE(Translations::translator().filePath(), Translations::fileFor(code));
+    }
+
+    void debugBridgeReachesTheLastObject()
+    {
+        UiprocPublic::sendDebug(QStringLiteral("nobody listens")); // no sink yet: nothing happens
+        UiprocPublic first;
+        QSignalSpy firstSpy(&first, &UiprocPublic::sendDebugToQml);
+        UiprocPublic::sendDebug(QStringLiteral("one"));
+        {
+            UiprocPublic second;
+            QSignalSpy secondSpy(&second, &UiprocPublic::sendDebugToQml);
+            UiprocPublic::sendDebug(QStringLiteral("two"));
+            QCOMPARE(secondSpy.count(), 1);
+            QCOMPARE(secondSpy.at(0).at(0).toString(), QStringLiteral("two"));
+        }
+        UiprocPublic::sendDebug(QStringLiteral("after the last one went")); // its sink is gone: dropped
+        QCOMPARE(firstSpy.count(), 1);
+        QCOMPARE(firstSpy.at(0).at(0).toString(), QStringLiteral("one"));
     }
 };
 
