@@ -25,21 +25,22 @@ Rectangle {
         paused: panel.paused
     }
 
-    // Where the device draws the second picture (a quarter, in a corner chosen by the layout).
+    // Where the device draws the second picture: a third of the frame, in the
+    // corner the layout names (bit 0: right, bit 1: bottom).
     Rectangle {
         objectName: "pipOutline"
         visible: panel.pipOn
-        width: preview.width / 4
-        height: preview.height / 4
-        x: preview.x + ((panel.pipLayout % 2) === 0 ? preview.width - width - preview.width / 32 : preview.width / 32)
-        y: preview.y + (panel.pipLayout < 2 ? preview.height - height - preview.height / 32 : preview.height / 32)
+        width: preview.width / 3
+        height: preview.height / 3
+        x: preview.x + ((panel.pipLayout & 1) ? preview.width - width - preview.width / 32 : preview.width / 32)
+        y: preview.y + ((panel.pipLayout & 2) ? preview.height - height - preview.height / 18 : preview.height / 18)
         color: "transparent"
         border.width: 3
         border.color: Style.onPip
     }
 
     Rectangle {
-        anchors { right: parent.right; top: parent.top; margins: Style.frame + Style.gap }
+        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Style.frame + Style.gap }
         width: tallyText.width + 2 * Style.gap
         height: tallyText.height + Style.gap
         radius: Style.radius / 2

@@ -115,6 +115,8 @@ QtObject {
 
     // Start-up: ask the device for the state it already has.
     function start() {
+        // The device has no PIP report: make it agree with the remembered choice.
+        manage.uiproc.connectSetPIP(pipOn ? 1 : 0, pipLayout)
         manage.uiproc.connectReadInitInput()
         manage.uiproc.connectGetInputCurrentFormat()
         manage.uiproc.connectRec(1, 3)

@@ -18,6 +18,10 @@ TestCase {
             function connectSetPIP(type, position) { fakeManage.note("pip " + type + " " + position) }
             function connectRec(type, code) { fakeManage.note("rec " + type + " " + code) }
             function connectGetUSBStatus() { fakeManage.note("usb?") }
+            function connectReadInitInput() { fakeManage.note("init?") }
+            function connectGetInputCurrentFormat() { fakeManage.note("formats?") }
+            function connectStreamPlatformStatus() { fakeManage.note("streams?") }
+            function connectGetLocalHost() { fakeManage.note("ip?") }
             function writeInitConfig(obj) { var s = fakeManage.saved.slice(); s.push(JSON.stringify(obj)); fakeManage.saved = s }
         }
         property QtObject uiproVideo: QtObject {
@@ -106,6 +110,12 @@ TestCase {
     function test_levelsInOrder() {
         fakeManage.uiprocGetAudioShareData.updateVoise(1, 2, 3, 4, 5, 6, 7, 8, 9)
         compare(store.levels, [1, 2, 3, 4, 5, 6, 7, 8, 9])
+    }
+
+    function test_startAppliesTheRememberedPip() {
+        store.loadSettings({ "pipModeOpen": 1, "pipModeSelect": 3 })
+        store.start()
+        compare(fakeManage.sent, ["pip 1 3", "init?", "formats?", "rec 1 3", "streams?", "ip?", "usb?"])
     }
 
     function test_settingsLoaded() {
