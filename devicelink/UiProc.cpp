@@ -15,6 +15,7 @@ UiProc::UiProc(QObject *parent)
 UiProc::~UiProc()
 {
     teardownTransport();
+    Logger::instance().closeFile();
 }
 
 short UiProc::combineTwoByte(uchar lowDat, uchar higDat)

@@ -27,6 +27,13 @@ int Logger::logSwitch() const
     return m_switch;
 }
 
+void Logger::closeFile()
+{
+    QMutexLocker lock(&m_mutex);
+    if (m_file.isOpen())
+        m_file.close();
+}
+
 void Logger::close()
 {
     QMutexLocker lock(&m_mutex);

@@ -16,7 +16,9 @@ public:
     // The switch as read from the settings at start ("/setting/openLog").
     void setSwitch(int value);
     int logSwitch() const;
-    // Closes the file; the next write picks a new one (used on UiProc destruction and by tests).
+    // Closes this run's file (UiProc's destruction); later lines reach only the console.
+    void closeFile();
+    // Closes the file and forgets it, so the next line starts a new run's file (tests).
     void close();
     // Path of the file chosen for this run, "" before the first line.
     QString currentFile() const;

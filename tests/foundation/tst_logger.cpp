@@ -82,6 +82,20 @@ private slots:
         QCOMPARE(logFiles(root), (QStringList{"0.CSLOG", "1.CSLOG"}));
     }
 
+    void closedFileKeepsTheConsole()
+    {
+        TestSysroot root;
+        CategoryCapture console;
+        Logger &log = Logger::instance();
+        log.setSwitch(1);
+        log.write(QStringLiteral("before"));
+        log.closeFile(); // what UiProc's destruction does
+        log.write(QStringLiteral("after"));
+        QCOMPARE(logFiles(root), QStringList{"0.CSLOG"});
+        QVERIFY(TestSysroot::readFile(root.path(QStringLiteral("/CSLog/0.CSLOG"))).endsWith(": before\n"));
+        QCOMPARE(console.lines(), (QStringList{"before", "after"}));
+    }
+
     void switchOffWritesNothing()
     {
         TestSysroot root;
