@@ -84,8 +84,12 @@ QtObject {
         }
         function onPushInputFormatInitiative(type, format) {
             store.heard()
-            if (type >= 0 && type < 4 && format.width !== undefined)
-                store.inputFormat = store.setAt(store.inputFormat, type, format.width + "x" + format.height + " " + format.Fps)
+            if (type < 0 || type >= 4)
+                return
+            // No current format means the input has no signal.
+            var known = format.width !== undefined
+            store.inputPresent = store.setAt(store.inputPresent, type, known)
+            store.inputFormat = store.setAt(store.inputFormat, type, known ? format.width + "x" + format.height + " " + format.Fps : "")
         }
         function onPushRecordingStatus(status) {
             store.heard()

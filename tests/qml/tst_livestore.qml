@@ -103,8 +103,12 @@ TestCase {
         fakeManage.uiproVideo.pushInputInitiative(1, 9) // unknown input: ignored
         fakeManage.uiproVideo.pushInputFormatInitiative(2, { "DataType": 0, "width": 1280, "height": 720, "Fps": 50 })
         compare(store.inputFormat[2], "1280x720 50")
+        compare(store.inputPresent[2], true)
         fakeManage.uiproVideo.pushInputFormatInitiative(3, {})
         compare(store.inputFormat[3], "")
+        compare(store.inputPresent[3], false)
+        fakeManage.uiproVideo.pushInputFormatInitiative(3, { "DataType": 0, "width": 1920, "height": 1080, "Fps": 30 })
+        compare(store.inputPresent[3], true)
     }
 
     function test_levelsInOrder() {
