@@ -3,7 +3,7 @@
 // the screens must see with its arguments, and the exact log lines. Every
 // row of the report vocabulary needs at least one vector here (checked by
 // tst_reportdispatch::everyRowHasAVector).
-#include "model_Protocoldata.h"
+#include "ProtocolRecord.h"
 
 #include <QByteArray>
 #include <QList>
@@ -41,14 +41,7 @@ inline QByteArray text0(const char *text)
 
 inline model_Protocoldata rec(int cmd, int d1 = 0, int d2 = 0, int d3 = 0, int d4 = 0, const QByteArray &block = {})
 {
-    model_Protocoldata r;
-    r.CMD = uchar(cmd);
-    r.DAT1 = uchar(d1);
-    r.DAT2 = uchar(d2);
-    r.DAT3 = uchar(d3);
-    r.DAT4 = uchar(d4);
-    r.arryDatablock = block;
-    return r;
+    return makeRecord(cmd, d1, d2, d3, d4, block);
 }
 
 // An extended report whose announced length is `announced` (the real block

@@ -2,6 +2,7 @@
 // Helpers shared by the simulator tests: command frames as the front end
 // sends them, and private System V keys per test process.
 #include "ProtocolFrame.h"
+#include "ProtocolRecord.h"
 
 #include <QCoreApplication>
 
@@ -14,17 +15,11 @@ namespace SimTest {
 // A "<T" frame; 0xF0 commands carry the block with its length in DAT3/DAT4.
 inline QByteArray cmd(int c, int d1 = 0, int d2 = 0, int d3 = 0, int d4 = 0, const QByteArray &block = {})
 {
-    model_Protocoldata r;
-    r.CMD = uchar(c);
-    r.DAT1 = uchar(d1);
-    r.DAT2 = uchar(d2);
-    r.DAT3 = uchar(d3);
-    r.DAT4 = uchar(d4);
+    model_Protocoldata r = makeRecord(c, d1, d2, d3, d4, block);
     if (c == 0xF0) {
         r.DAT3 = uchar(block.size() & 0xff);
         r.DAT4 = uchar(block.size() >> 8);
     }
-    r.arryDatablock = block;
     return ProtocolFrame::build(r, 'T');
 }
 
