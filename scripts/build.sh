@@ -4,5 +4,8 @@
 set -e
 top=$(cd "$(dirname "$0")/.." && pwd)
 build="${CS_BUILD_DIR:-$top/build}"
-cmake -S "$top" -B "$build" -DCMAKE_BUILD_TYPE="${CS_BUILD_TYPE:-RelWithDebInfo}" >/dev/null
+# ccache keeps rebuilds of unchanged sources cheap (CI, parallel build folders).
+launcher=""
+command -v ccache >/dev/null 2>&1 && launcher="-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
+cmake -S "$top" -B "$build" -DCMAKE_BUILD_TYPE="${CS_BUILD_TYPE:-RelWithDebInfo}" $launcher >/dev/null
 cmake --build "$build" -j"${CS_JOBS:-2}"

@@ -9,7 +9,7 @@ qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-
 qml-module-qttest qml-module-qtmultimedia
 libavformat-dev libavcodec-dev libavutil-dev
 libgl1-mesa-dri fonts-dejavu-core fonts-wqy-microhei
-xvfb xauth ffmpeg procps"
+xvfb xauth ffmpeg procps strace ccache"
 missing=""
 for p in $PACKAGES; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"
