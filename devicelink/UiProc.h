@@ -6,17 +6,14 @@
 // in UiProc_settings.cpp.
 #include "model_Protocoldata.h"
 
-#include <QElapsedTimer>
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
-#include <QMutex>
 #include <QObject>
 #include <QVariantList>
 
-class QTimer;
-class QUdpSocket;
+class LinkTransport;
 class biz_CMDSWork;
 
 class UiProc : public QObject
@@ -35,14 +32,15 @@ public:
     void writeDailyLog(const QString &text);
 
     // Transport details for the rest of the native code and for tests.
-    quint16 destinationPort() const { return m_destPort; }
-    quint16 listenPort() const { return m_listenPort; }
+    quint16 destinationPort() const;
+    quint16 listenPort() const;
     quint16 commandSocketPort() const;
     // Destinations of records sent with send mode 1; empty unless filled here.
-    void setBroadcastAddresses(const QList<QHostAddress> &addresses) { m_broadcastList = addresses; }
+    void setBroadcastAddresses(const QList<QHostAddress> &addresses);
     // How long a 0xF1 data block may take to arrive, measured from its header.
     static constexpr int kBlockCollectLimitMs = 2000;
     bool isCollectingBlock() const;
+    LinkTransport *transport() const { return m_transport; }
 
 signals:
     void uiChangeUI(int ADDR, int SN, int CMD, int DAT1, int DAT2, int DAT3, int DAT4, int CHKSUM,
@@ -87,6 +85,9 @@ public slots:
     bool connectVersion();
     bool connectSystemVersion();
     bool connectGetUSBStatus();
+    // The main screen's keep-alive: connectGetUSBStatus without its log
+    // line; the transport logs the repeated frame and answer once a minute.
+    bool heartbeat();
     bool connectGetTypeCStatus();
     bool connectGetPower();
     bool connectGetOutputStatus();
@@ -172,11 +173,6 @@ public slots:
 private:
     void setupTransport();
     void teardownTransport();
-    void setupSockets();
-    void readDatagrams(QUdpSocket *socket);
-    void handleDatagram(const QByteArray &datagram);
-    void abandonBlock(const char *why);
-    void checkBlockTimeout();
 
     // Command set helpers: run a table command the way its entry says
     // (log, detached thread or caller's thread), or its sender inline.
@@ -189,20 +185,7 @@ private:
 
     // transport state
     biz_CMDSWork *m_worker = nullptr;
-    QString m_destAddress = QStringLiteral("127.0.0.1");
-    quint16 m_destPort = 5560;
-    quint16 m_listenPort = 1259;
-    QUdpSocket *m_cmdSocket = nullptr;
-    QUdpSocket *m_listenSocket = nullptr;
-    QList<QHostAddress> m_broadcastList;
-
-    // 0xF1 block collector: header kept while its data block arrives.
-    mutable QMutex m_collectLock;
-    bool m_collecting = false;
-    model_Protocoldata m_collectHeader;
-    QByteArray m_collectBlock;
-    QElapsedTimer m_collectClock;
-    QTimer *m_collectTimer = nullptr;
+    LinkTransport *m_transport = nullptr;
 
     // Host that the reachability check pings (set by connectGetLocalHost).
     QString m_targetHost;

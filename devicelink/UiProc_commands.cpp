@@ -1,6 +1,7 @@
 // The command set: every device command the screens can issue, as one
 // table entry each, and the QML-facing slots that name them.
 #include "LinkCommands.h"
+#include "LinkTransport.h"
 #include "UiProc.h"
 
 #include "Logger.h"
@@ -301,7 +302,7 @@ bool UiProc::runCommand(const char *key, const QVariantList &args, bool writeSlo
     Q_ASSERT_X(c, "UiProc::runCommand", key);
     if (!c)
         return true;
-    m_destAddress = QStringLiteral("127.0.0.1");
+    m_transport->setDestinationAddress(QStringLiteral("127.0.0.1"));
     if (writeSlotLog && c->slotLog) {
         QString line = QLatin1String(c->slotLog);
         if (c->logArg >= 0 && c->logArg < args.size())
@@ -330,7 +331,7 @@ void UiProc::sendCommandNow(const char *key, const QVariantList &args)
     Q_ASSERT_X(c, "UiProc::sendCommandNow", key);
     if (!c)
         return;
-    m_destAddress = QStringLiteral("127.0.0.1");
+    m_transport->setDestinationAddress(QStringLiteral("127.0.0.1"));
     LinkCommands::send(*c, args);
 }
 
@@ -349,6 +350,7 @@ bool UiProc::connectReadSN() { return runCommand("connectReadSN", {}); }
 bool UiProc::connectVersion() { return runCommand("connectVersion", {}); }
 bool UiProc::connectSystemVersion() { return runCommand("connectSystemVersion", {}); }
 bool UiProc::connectGetUSBStatus() { return runCommand("connectGetUSBStatus", {}); }
+bool UiProc::heartbeat() { return runCommand("connectGetUSBStatus", {}, false); }
 bool UiProc::connectGetTypeCStatus() { return runCommand("connectGetTypeCStatus", {}); }
 bool UiProc::connectGetPower()
 {
@@ -390,20 +392,12 @@ bool UiProc::readHDMI2Status() { return runCommand("readHDMI2Status", {}); }
 
 int UiProc::currentInputIndex()
 {
-    QJsonValue v = m_iniData.value(QStringLiteral("curInputIndex"));
-    if (v.isUndefined()) {
-        QJsonObject fromFile;
-        SettingsStore::read(fromFile);
-        v = fromFile.value(QStringLiteral("curInputIndex"));
-    }
-    if (v.isDouble())
-        return v.toInt(-1);
-    if (v.isString()) {
-        bool ok = false;
-        const int i = v.toString().toInt(&ok);
-        return ok ? i : -1;
-    }
-    return -1;
+    // Read afresh: the screens move the current input through the settings
+    // file after the settings object was read at start-up.
+    QJsonObject fromFile;
+    SettingsStore::read(fromFile);
+    const QJsonValue v = fromFile.value(QStringLiteral("curInputIndex"));
+    return v.isDouble() ? v.toInt(-1) : -1;
 }
 
 namespace {
@@ -468,7 +462,7 @@ bool parseInputFormat(const QJsonValue &entry, InputFormat &out)
 // check byte (8-bit sum of the seven before it). DAT2 is the current input.
 bool UiProc::connectSetInputSignalFormat(QJsonArray videoFormatList)
 {
-    m_destAddress = QStringLiteral("127.0.0.1");
+    m_transport->setDestinationAddress(QStringLiteral("127.0.0.1"));
     writeLog(QStringLiteral("UiProc::connectSetInputSignalFormat--------------   go into"));
     const int input = currentInputIndex();
     if (input < 0 || input > 0xff || input >= videoFormatList.size()) {
@@ -508,7 +502,7 @@ bool UiProc::connectStreamOnAir(int nIsRtmpOpen, QString rtmpAddr) { return conn
 // use it to check what would go out).
 bool UiProc::connectStreamOnAir(int nIsRtmpOpen, QString rtmpAddr, bool isSend)
 {
-    m_destAddress = QStringLiteral("127.0.0.1");
+    m_transport->setDestinationAddress(QStringLiteral("127.0.0.1"));
     writeLog(QStringLiteral("UiProc::connectStreamOnAir--------------   RtmpAddr:") + rtmpAddr.left(LinkCommands::kMaxStreamBlock));
     const QVariantList args{nIsRtmpOpen, rtmpAddr};
     const model_Protocoldata rec = LinkCommands::makeRecord(*LinkCommands::find("connectStreamOnAir"), args);

@@ -2,6 +2,7 @@
 
 #include "LogCategories.h"
 #include "Logger.h"
+#include "ProtocolFrame.h"
 #include "UiProc.h"
 #include "VideoFormatList.h"
 #include "biz_CMDSWork.h"
@@ -346,6 +347,7 @@ UiprocVideo_Desktop::UiprocVideo_Desktop(QObject *parent)
     : QObject(parent)
 {
     registerProtocolTypes();
+    m_clock.start();
 }
 
 void UiprocVideo_Desktop::cmdProcess(model_Protocoldata pData)
@@ -362,12 +364,17 @@ void UiprocVideo_Desktop::taskCmdProcess(model_Protocoldata pData)
     const ReportRow &row = reportTable().at(index);
     const ReportContext ctx{pData, pData.arryDatablock, quint16(pData.DAT3 | (pData.DAT4 << 8))};
 
-    if (row.log) {
+    // The same report again and again (the answer to the keep-alive) is
+    // logged once a minute.
+    int repeats = 0;
+    if (row.log && m_logRepeats.shouldLog(ProtocolFrame::build(pData, 'F') + pData.arryDatablock, m_clock.elapsed(), &repeats)) {
         QString line = logPrefix() + QLatin1String(row.log);
         if (row.tail == ReportRow::LogTail::Length)
             line += QString::number(ctx.len);
         else if (row.tail == ReportRow::LogTail::Address)
             line += addressText(pData);
+        if (repeats > 0)
+            line += QStringLiteral(" (and %1 identical reports not logged)").arg(repeats);
         writeLog(line);
     }
     if (row.decode)

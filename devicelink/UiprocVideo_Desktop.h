@@ -4,8 +4,10 @@
 // The report vocabulary is a table (reportTable()): one row per report
 // (command code, selector bytes, fixed log text, signal, decoder). Adding a
 // report is adding one row; taskCmdProcess only finds the row and runs it.
+#include "LinkLog.h"
 #include "model_Protocoldata.h"
 
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QObject>
@@ -123,4 +125,6 @@ private:
     // The worker this object last connected to, so a later bizConnect or
     // bizDisconnect also undoes that connection if another worker took over.
     QPointer<biz_CMDSWork> m_connectedWorker;
+    LinkLog::RepeatFilter m_logRepeats;
+    QElapsedTimer m_clock;
 };

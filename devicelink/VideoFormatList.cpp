@@ -5,6 +5,9 @@
 #include <QJsonObject>
 #include <QMutex>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 int byteAt(const QByteArray &bytes, int k)
@@ -26,8 +29,18 @@ QJsonArray buildFormatArray(const QByteArray &bytes, quint16 len, bool interlace
     const int announced = len >= 1 ? (int(len) - 1) / kEntrySize : 0;
     const int count = qMin(announced, int(bytes.size()) / kEntrySize);
 
-    QJsonArray array;
-    for (int i = 0; i < count; ++i) {
+    // Entries come out in reverse block order, then ordered by weight,
+    // largest first; equal weights keep that reverse order. (The device's
+    // own list did this with a bubble sort; a stable sort gives exactly the
+    // same order without its quadratic cost on a full 32 KB block.)
+    struct Entry
+    {
+        int weight;
+        QJsonObject format;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(size_t(count));
+    for (int i = count - 1; i >= 0; --i) {
         const int at = i * kEntrySize;
         const int type = byteAt(bytes, at);
         const int width = byteAt(bytes, at + 1) | (byteAt(bytes, at + 2) << 8);
@@ -38,28 +51,21 @@ QJsonArray buildFormatArray(const QByteArray &bytes, quint16 len, bool interlace
         // it ranks one above the progressive format of the same kind.
         const bool interlaced = interlace && height == 540;
         const int rankHeight = interlaced ? 1081 : height;
+        const int weight = width - type + rate + rankHeight;
         QJsonObject format;
-        format.insert(QStringLiteral("Weights"), width - type + rate + rankHeight);
+        format.insert(QStringLiteral("Weights"), weight);
         format.insert(QStringLiteral("DataType"), type);
         format.insert(QStringLiteral("width"), width);
         format.insert(QStringLiteral("height"), interlaced ? 1080 : height);
         format.insert(QStringLiteral("Fps"), QString::number(rate) + (interlaced ? QStringLiteral("i") : QString()));
-        array.prepend(format);
+        entries.push_back(Entry{weight, format});
     }
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const Entry &a, const Entry &b) { return a.weight > b.weight; });
 
-    // Bubble sort, largest first; equal weights never swap, so among them the
-    // reverse block order from the prepends stands.
-    const int n = array.size();
-    for (int p = 0; p < n; ++p) {
-        for (int j = 0; j + 1 < n - p; ++j) {
-            if (array.at(j).toObject().value(QStringLiteral("Weights")).toInt()
-                < array.at(j + 1).toObject().value(QStringLiteral("Weights")).toInt()) {
-                const QJsonValue first = array.at(j);
-                array.replace(j, array.at(j + 1));
-                array.replace(j + 1, first);
-            }
-        }
-    }
+    QJsonArray array;
+    for (const Entry &e : entries)
+        array.append(e.format);
     return array;
 }
 
