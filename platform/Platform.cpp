@@ -14,14 +14,37 @@ QString sysroot()
     return root;
 }
 
+namespace {
+// A device path with its "." and ".." taken as the device would from "/":
+// never above the root. Paths without them are kept as written.
+QString withinRoot(const QString &devicePath)
+{
+    const QStringList parts = devicePath.split(QLatin1Char('/'));
+    if (!parts.contains(QLatin1String("..")) && !parts.contains(QLatin1String(".")))
+        return devicePath;
+    QStringList kept;
+    for (const QString &part : parts) {
+        if (part == QLatin1String("..")) {
+            if (!kept.isEmpty())
+                kept.removeLast();
+        } else if (!part.isEmpty() && part != QLatin1String(".")) {
+            kept << part;
+        }
+    }
+    const bool folder = parts.constLast().isEmpty() || parts.constLast() == QLatin1String(".")
+        || parts.constLast() == QLatin1String("..");
+    return QLatin1Char('/') + kept.join(QLatin1Char('/')) + (folder && !kept.isEmpty() ? QStringLiteral("/") : QString());
+}
+} // namespace
+
 QString path(const QString &devicePath)
 {
     const QString root = sysroot();
     if (root.isEmpty() || !devicePath.startsWith(QLatin1Char('/')))
         return devicePath;
     if (devicePath == root || devicePath.startsWith(root + QLatin1Char('/')))
-        return devicePath; // already resolved
-    return root + devicePath;
+        return root + withinRoot(devicePath.mid(root.size())); // already resolved
+    return root + withinRoot(devicePath);
 }
 
 QString appDir()
@@ -46,14 +69,18 @@ QStringList programDirs()
 QProcessEnvironment childEnvironment()
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    if (!sysroot().isEmpty())
+    const QString root = sysroot();
+    if (!root.isEmpty()) {
         env.insert(QStringLiteral("PATH"), programDirs().join(QLatin1Char(':')));
+        env.insert(QStringLiteral("HOME"), root); // "cd" and "~" stay inside too
+    }
     return env;
 }
 
 QString shellQuote(const QString &word)
 {
-    static const QRegularExpression safe(QStringLiteral("^[A-Za-z0-9_./:@%+=,-]+$"));
+    // Anchored at the very end: "$" would also match before a final newline.
+    static const QRegularExpression safe(QRegularExpression::anchoredPattern(QStringLiteral("[A-Za-z0-9_./:@%+=,-]+")));
     if (safe.match(word).hasMatch())
         return word;
     QString quoted = word;

@@ -5,7 +5,7 @@
 // absolute device path resolves under <dir>, the application directory
 // becomes <dir>/usr/bin, and child processes only find programs inside
 // <dir>: a desktop run or a test can never touch the host's clock, network
-// or processes.
+// or processes (CommandConfinement keeps the commands run inside).
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -17,7 +17,8 @@ namespace Platform {
 QString sysroot();
 
 // Maps an absolute device path ("/sys/...", "/media/usb0", "/usr/bin/config")
-// to the real path. Relative paths are returned unchanged.
+// to the real path; ".." never climbs above the sysroot. Relative paths are
+// returned unchanged.
 QString path(const QString &devicePath);
 
 // Directory of the executable ("/usr/bin" on the device); config/ lives in it.
@@ -26,8 +27,8 @@ QString appDir();
 // Directories searched for programs run by the shell layer.
 QStringList programDirs();
 
-// Environment for child processes: the inherited one, with PATH restricted
-// to the sysroot's program directories when a sysroot is set.
+// Environment for child processes: the inherited one; with a sysroot, PATH
+// holds only its program directories and HOME is the sysroot.
 QProcessEnvironment childEnvironment();
 
 // Quotes a word for /bin/sh. Words made only of safe characters come back

@@ -1,9 +1,11 @@
 #include "Shell.h"
 
+#include "CommandConfinement.h"
 #include "LogCategories.h"
 #include "Platform.h"
 
 #include <QElapsedTimer>
+#include <QMutex>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -18,10 +20,38 @@
 
 namespace {
 
+// A command the sysroot cannot hold is not run. Its text may come partly
+// from outside, so the line is cut, escaped and written at most once a second.
+void logRefused(const QString &line, const QString &why)
+{
+    static QMutex mutex;
+    static QElapsedTimer clock;
+    static int held = 0;
+    QMutexLocker lock(&mutex);
+    if (clock.isValid() && clock.elapsed() < 1000) {
+        ++held;
+        return;
+    }
+    clock.start();
+    QString shown;
+    for (const QChar c : line.left(200))
+        shown += c.isPrint() && c != QLatin1Char('\\') ? QString(c) : QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+    qCWarning(lcShell).noquote() << "not run, it cannot be kept inside the sysroot (" + why + "):" << shown
+                                 << (line.size() > 200 ? QStringLiteral("...") : QString())
+                                 << (held ? QStringLiteral("(%1 more not run since the last message)").arg(held) : QString());
+    held = 0;
+}
+
 // Spawns /bin/sh -c line with the child environment. posix_spawn keeps this
 // safe to call from any thread of a multi-threaded process.
 int spawnShell(const QString &line, QByteArray *out)
 {
+    QString why;
+    const QString script = CommandConfinement().shellScript(line, &why);
+    if (!why.isEmpty()) {
+        logRefused(line, why);
+        return -1;
+    }
     const QProcessEnvironment env = Platform::childEnvironment();
     std::vector<std::string> envStrings;
     for (const QString &key : env.keys())
@@ -31,7 +61,7 @@ int spawnShell(const QString &line, QByteArray *out)
         envp.push_back(s.data());
     envp.push_back(nullptr);
 
-    std::string cmd = line.toLocal8Bit().toStdString();
+    std::string cmd = script.toLocal8Bit().toStdString();
     char sh[] = "sh";
     char dashC[] = "-c";
     char *argv[] = {sh, dashC, cmd.data(), nullptr};
@@ -100,6 +130,7 @@ QByteArray SystemShellRunner::output(const QString &line)
 QByteArray SystemShellRunner::process(const QString &program, const QStringList &args, int timeoutMs)
 {
     qCDebug(lcShell).noquote() << "process:" << program << args.join(QLatin1Char(' '));
+    const CommandConfinement confinement;
     QString exe = program;
     if (!program.contains(QLatin1Char('/'))) {
         // Look the program up where the child would, never in the host's PATH under a sysroot.
@@ -109,15 +140,17 @@ QByteArray SystemShellRunner::process(const QString &program, const QStringList 
             return {};
         }
     } else {
-        exe = Platform::path(program);
+        exe = confinement.word(program);
     }
+    QStringList confinedArgs;
+    for (const QString &arg : args)
+        confinedArgs << confinement.word(arg);
     QProcess proc;
     proc.setProcessEnvironment(Platform::childEnvironment());
-    proc.start(exe, args, QIODevice::ReadOnly);
+    proc.setWorkingDirectory(confinement.workingDirectory());
+    proc.start(exe, confinedArgs, QIODevice::ReadOnly);
     if (!proc.waitForStarted(timeoutMs))
         return {};
-    QElapsedTimer timer;
-    timer.start();
     proc.waitForFinished(timeoutMs);
     QByteArray out = proc.readAllStandardOutput();
     if (proc.state() != QProcess::NotRunning) {

@@ -19,7 +19,9 @@ public:
     virtual QByteArray process(const QString &program, const QStringList &args, int timeoutMs) = 0;
 };
 
-// Runs commands for real, in Platform::childEnvironment().
+// Runs commands for real, in Platform::childEnvironment(). Under a sysroot
+// they are confined to it (CommandConfinement); a command text that cannot
+// be confined is not run: system() gives -1 and output() nothing.
 class SystemShellRunner : public ShellRunner
 {
 public:
