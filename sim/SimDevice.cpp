@@ -229,14 +229,6 @@ QString Device::handlerName(uchar cmd, uchar dat1)
     return r ? QString::fromLatin1(r->name) : QString();
 }
 
-QVector<Device::HandlerKey> Device::handlerKeys()
-{
-    QVector<HandlerKey> keys;
-    for (const Row &r : kRows)
-        keys.append({r.cmd, r.dat1, QString::fromLatin1(r.name)});
-    return keys;
-}
-
 QVector<Report> Device::handle(const model_Protocoldata &cmd, bool *accepted)
 {
     if (accepted)

@@ -39,16 +39,8 @@ public:
     const DeviceState &state() const { return m_state; }
     void resetToFactory();
 
-    // The name of the handler that takes this command ("" if none): for logs and tests.
+    // The name of the handler that takes this command ("" if none), for logs.
     static QString handlerName(uchar cmd, uchar dat1);
-    // CMD, DAT1 (-1: any) and name of every row of the handler table.
-    struct HandlerKey
-    {
-        int cmd;
-        int dat1;
-        QString name;
-    };
-    static QVector<HandlerKey> handlerKeys();
 
     // Datagrams for one report: the 19-byte "<F" header alone, then for an
     // 0xF1 report its block in pieces of at most `chunk` bytes.

@@ -164,13 +164,6 @@ QByteArray timeCode(qint64 elapsedMs, int fps)
         .toLatin1();
 }
 
-Rgb signatureColour(int input, bool plugged, qint64 elapsedMs, int x, int y, int w, int h)
-{
-    if (!plugged)
-        return {40, 40, 40};
-    return pattern(input, x, y, w, h, elapsedMs);
-}
-
 void drawSource(uchar *rgb, int width, int height, const Rect &r, int input, bool plugged, qint64 t, bool labelRight)
 {
     const int x0 = qMax(0, r.x), y0 = qMax(0, r.y);

@@ -50,9 +50,5 @@ void drawText(uchar *rgb, int width, int height, int x, int y, const QByteArray 
 // "HH:MM:SS:FF" for a running time.
 QByteArray timeCode(qint64 elapsedMs, int fps);
 
-// The colour of the top-left text-free probe point of an input's pattern
-// (the first bar, the corner of a gradient ...), for checks of what is on show.
-Rgb signatureColour(int input, bool plugged, qint64 elapsedMs, int x, int y, int w, int h);
-
 } // namespace Picture
 } // namespace Sim
