@@ -32,6 +32,7 @@ int loadStartupLanguage(const QString &localeName)
     // Read the settings the same way UiProc would, without constructing one:
     // a temporary UiProc would start command loops that share the class-wide queues.
     SettingsStore::importFromUserdata();
+    SettingsStore::ensureFile();
     QJsonObject settings;
     SettingsStore::read(settings);
     const int code = settings.value(QStringLiteral("language")).toInt(0);

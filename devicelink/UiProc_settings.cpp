@@ -1,7 +1,7 @@
 #include "UiProc.h"
 
+#include "DiskSync.h"
 #include "Logger.h"
-#include "Shell.h"
 #include "SettingsStore.h"
 
 void UiProc::isExistConfig() { SettingsStore::importFromUserdata(); }
@@ -15,8 +15,10 @@ void UiProc::writeInitConfig(QJsonObject data)
     // Writes before the screens declare start-up finished are dropped, not queued.
     if (!m_initFinished)
         return;
+    // The file is replaced by one rename here, in call order; only the flush
+    // to the medium, which can take seconds during a USB recording, waits.
     SettingsStore::write(data);
-    Shell::system(QStringLiteral("sync"));
+    DiskSync::instance().request();
 }
 
 void UiProc::initFinished() { m_initFinished = true; }

@@ -3,7 +3,6 @@
 #include "LogCategories.h"
 #include "Platform.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QTextStream>
 
@@ -19,6 +18,13 @@ void Logger::setSwitch(int value)
 {
     QMutexLocker lock(&m_mutex);
     m_switch = value;
+    if (m_switchKnown)
+        return;
+    m_switchKnown = true;
+    if (value != 0 && !m_chosen && (!m_early.isEmpty() || m_earlyDropped > 0))
+        flushEarlyLines();
+    m_early.clear();
+    m_earlyDropped = 0;
 }
 
 int Logger::logSwitch() const
@@ -41,6 +47,24 @@ void Logger::close()
         m_file.close();
     m_chosen = false;
     m_fileName = QStringLiteral("0");
+    m_fileBytes = 0;
+}
+
+void Logger::reset()
+{
+    close();
+    QMutexLocker lock(&m_mutex);
+    m_switch = 0;
+    m_switchKnown = false;
+    m_fileCap = kFileCap;
+    m_early.clear();
+    m_earlyDropped = 0;
+}
+
+void Logger::setFileCap(qint64 bytes)
+{
+    QMutexLocker lock(&m_mutex);
+    m_fileCap = bytes;
 }
 
 QString Logger::currentFile() const
@@ -65,7 +89,37 @@ void Logger::chooseFile()
     }
     m_chosen = true;
     m_file.setFileName(dirPath + m_fileName + QStringLiteral(".CSLOG"));
-    m_file.open(QIODevice::Append | QIODevice::Text);
+    if (m_file.open(QIODevice::Append | QIODevice::Text))
+        m_fileBytes = m_file.size();
+}
+
+void Logger::flushEarlyLines()
+{
+    chooseFile();
+    for (const auto &line : qAsConst(m_early))
+        emitLine(line.first, line.second);
+    if (m_earlyDropped > 0)
+        emitLine(QDateTime::currentDateTime(),
+                 QStringLiteral("%1 earlier lines were not kept: the log switch was not known yet").arg(m_earlyDropped));
+}
+
+void Logger::emitLine(const QDateTime &time, const QString &text)
+{
+    qCDebug(lcLog).noquote() << text;
+    if (!m_file.isOpen())
+        return;
+    const QByteArray stamp = time.toString(QStringLiteral("yyyy-MM-dd-hh-mm-ss")).toUtf8() + ": ";
+    const QByteArray line = stamp + text.toUtf8() + '\n';
+    if (m_fileBytes + line.size() > m_fileCap) {
+        const QString notice = QStringLiteral("log file reached %1 bytes; further lines go to the console only").arg(m_fileBytes);
+        qCWarning(lcLog).noquote() << notice;
+        m_file.write(stamp + notice.toUtf8() + '\n');
+        m_file.close();
+        return;
+    }
+    m_file.write(line);
+    m_file.flush();
+    m_fileBytes += line.size();
 }
 
 void Logger::write(const QString &text)
@@ -77,17 +131,18 @@ void Logger::write(const QString &text)
     if (!QDir(dirPath).exists())
         QDir().mkpath(dirPath);
     if (!m_chosen) {
+        if (!m_switchKnown) {
+            if (m_early.size() < kMaxEarlyLines)
+                m_early.append({QDateTime::currentDateTime(), text});
+            else
+                ++m_earlyDropped;
+            return;
+        }
         if (m_switch == 0)
             return;
         chooseFile();
     }
-    qCDebug(lcLog).noquote() << text;
-    if (!m_file.isOpen())
-        return;
-    QTextStream out(&m_file);
-    out.setCodec("UTF-8");
-    out << QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-hh-mm-ss")) << ": " << text << '\n';
-    out.flush();
+    emitLine(QDateTime::currentDateTime(), text);
 }
 
 void Logger::writeDaily(const QString &text)

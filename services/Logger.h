@@ -1,25 +1,40 @@
 #pragma once
 // The run's diagnostic log: one numbered "<n>.CSLOG" file per run under
 // /CSLog/, at most eleven old ones kept. Off unless the settings switch
-// openLog is non-zero when UiProc starts.
+// openLog is non-zero when UiProc starts. One run's file stops growing at
+// kFileCap bytes (plus one line saying so); later lines reach the console only.
+#include <QDateTime>
 #include <QFile>
+#include <QList>
 #include <QMutex>
 #include <QString>
 
 class Logger
 {
 public:
+    // 16 MiB: days of normal logging, yet a runaway writer cannot fill the
+    // device's storage (eleven old files are kept besides this one).
+    static constexpr qint64 kFileCap = 16 * 1024 * 1024;
+    // Lines written before the switch is read (the settings import runs
+    // first) are kept, at most this many, and written once it is known.
+    static constexpr int kMaxEarlyLines = 64;
+
     static Logger &instance();
 
     // Appends one line (the writeLog slot). Safe from any thread.
     void write(const QString &text);
     // The switch as read from the settings at start ("/setting/openLog").
+    // The first call writes the lines kept so far when non-zero, drops them when 0.
     void setSwitch(int value);
     int logSwitch() const;
     // Closes this run's file (UiProc's destruction); later lines reach only the console.
     void closeFile();
     // Closes the file and forgets it, so the next line starts a new run's file (tests).
     void close();
+    // Back to the state at process start: no file, switch not yet known, default cap (tests).
+    void reset();
+    // Size at which this run's file stops growing (tests use a small one).
+    void setFileCap(qint64 bytes);
     // Path of the file chosen for this run, "" before the first line.
     QString currentFile() const;
 
@@ -28,13 +43,21 @@ public:
 
 private:
     Logger() = default;
-    void chooseFile(); // with m_mutex held
+    // The rest run with m_mutex held.
+    void chooseFile();
+    void emitLine(const QDateTime &time, const QString &text);
+    void flushEarlyLines();
 
     mutable QMutex m_mutex;
     int m_switch = 0;
+    bool m_switchKnown = false;
     bool m_chosen = false;
     QString m_fileName = QStringLiteral("0");
     QFile m_file;
+    qint64 m_fileBytes = 0;
+    qint64 m_fileCap = kFileCap;
+    QList<QPair<QDateTime, QString>> m_early;
+    int m_earlyDropped = 0;
 };
 
 // Shorthand used across the code base for the specified log lines.

@@ -6,7 +6,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
 #include <QSettings>
+
+// The factory settings (config/factory.qrc) live in the static core library:
+// nothing would pull them into an executable without this reference.
+static void initFactoryResource() { Q_INIT_RESOURCE(factory); }
 
 namespace SettingsStore {
 
@@ -54,21 +60,61 @@ struct Ini
 
 QString filePath() { return Platform::appDir() + QStringLiteral("/config/CS_Config.ini"); }
 
+namespace {
+
+// Replaces target with the bytes of source in one rename: a reader sees the
+// old file or the new one, and a failed copy leaves the old one in place.
+bool replaceAtomically(const QString &source, const QString &target)
+{
+    QFile in(source);
+    if (!in.open(QIODevice::ReadOnly))
+        return false;
+    QSaveFile out(target);
+    if (!out.open(QIODevice::WriteOnly))
+        return false;
+    char buf[16384];
+    for (;;) {
+        const qint64 n = in.read(buf, sizeof buf);
+        if (n < 0) {
+            out.cancelWriting();
+            break;
+        }
+        if (n == 0)
+            break;
+        if (out.write(buf, n) != n)
+            break; // QSaveFile then refuses to commit
+    }
+    return out.commit();
+}
+
+} // namespace
+
 void importFromUserdata()
 {
     const QString source = Platform::path(QStringLiteral("/userdata/CS_Config.ini"));
     if (!QFile::exists(source))
         return;
     writeLog(QStringLiteral("find userdata config"));
-    const QString target = Platform::path(QStringLiteral("/usr/bin/config/CS_Config.ini"));
-    if (QFile::exists(target))
-        QFile::remove(target);
     const QString dir = Platform::path(QStringLiteral("/usr/bin/config"));
     if (!QDir(dir).exists())
         QDir().mkdir(dir);
-    const bool copied = QFile::copy(source, target);
+    const bool copied = replaceAtomically(source, Platform::path(QStringLiteral("/usr/bin/config/CS_Config.ini")));
     qCDebug(lcSettings) << "copy res:" << copied;
+    // Consumed even when the copy failed, so a bad file is not retried at every start.
     QFile::remove(source);
+}
+
+bool ensureFile()
+{
+    const QString target = filePath();
+    if (QFileInfo::exists(target))
+        return false;
+    initFactoryResource();
+    QDir().mkpath(QFileInfo(target).absolutePath());
+    const bool created = replaceAtomically(QStringLiteral(":/factory/CS_Config.ini"), target);
+    writeLog(created ? QStringLiteral("CS_Config.ini missing: factory settings restored")
+                     : QStringLiteral("CS_Config.ini missing and the factory settings could not be written"));
+    return created;
 }
 
 void read(QJsonObject &obj)

@@ -18,8 +18,12 @@ extern const Key kKeys[43];
 
 // "<application dir>/config/CS_Config.ini".
 QString filePath();
-// Import step: a CS_Config.ini dropped in /userdata replaces the active one once.
+// Import step: a CS_Config.ini dropped in /userdata replaces the active one once
+// (atomically: a failed copy keeps the previous file).
 void importFromUserdata();
+// Creates a missing settings file from the factory defaults compiled into the
+// executable. True when it had to (and could) create it.
+bool ensureFile();
 // Adds every key present in the file to obj (never removes a property).
 void read(QJsonObject &obj);
 // Stores each of the 43 keys present in data; other keys are ignored. No gating, no sync.

@@ -46,8 +46,12 @@ QtObject {
             recordStartMs = Number(settings.recordStartTime) || 0
     }
 
+    // Only the operator's own choices are saved. Device reports change what
+    // is shown and never write the settings file: they arrive during cuts
+    // and recordings, when the disk is busiest.
     function switchProgramme(index) {
         manage.uiproc.connectSwitchVideo(index, true)
+        manage.uiproc.writeInitConfig({ "inputType": index })
     }
     function switchPip(index) {
         pipInput = index
@@ -61,9 +65,11 @@ QtObject {
     }
     function startRecording() {
         manage.uiproc.connectRec(1, 1)
+        manage.uiproc.writeInitConfig({ "recordStatus": 1, "recordStartTime": String(Date.now()) })
     }
     function stopRecording() {
         manage.uiproc.connectRec(1, 2)
+        manage.uiproc.writeInitConfig({ "recordStatus": 0, "recordStartTime": "" })
     }
     function poll() {
         nowMs = Date.now()
@@ -72,11 +78,7 @@ QtObject {
 
     property Connections reports: Connections {
         target: store.manage ? store.manage.uiproVideo : null
-        function onPushPGMCutFinish(sourceIndex) {
-            store.heard()
-            store.programmeInput = sourceIndex
-            store.manage.uiproc.writeInitConfig({ "inputType": sourceIndex })
-        }
+        function onPushPGMCutFinish(sourceIndex) { store.heard(); store.programmeInput = sourceIndex }
         function onPushInitInput(mainInput, subInput) { store.heard(); store.programmeInput = mainInput; store.pipInput = subInput }
         function onPushInputInitiative(status, inputID) {
             store.heard()
@@ -96,7 +98,6 @@ QtObject {
             var was = store.recording
             store.recording = status !== 0
             if (store.recording && !was) store.recordStartMs = Date.now()
-            store.manage.uiproc.writeInitConfig({ "recordStatus": status, "recordStartTime": store.recording ? String(store.recordStartMs) : "" })
         }
         function onPushRtmpStatus(channel, status) {
             store.heard()

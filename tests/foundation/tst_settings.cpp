@@ -1,20 +1,32 @@
-// The settings file on real disk: round trips, gating, import and key filtering.
+// The settings file and the run's log on real disk: conversions, gating, the
+// background sync, import, factory file, current input; log numbering,
+// rotation, switch, lines kept until the switch is known, size cap.
+#include "DiskSync.h"
 #include "Logger.h"
 #include "SettingsStore.h"
-#include "Shell.h"
 #include "TestSysroot.h"
 #include "UiProc.h"
 
-#include <QJsonObject>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QNetworkDatagram>
+#include <QRegularExpression>
 #include <QSettings>
+#include <QUdpSocket>
 #include <QtTest>
 
 namespace {
-std::unique_ptr<QSettings> ini(const QString &file)
+QVariant stored(const TestSysroot &root, const char *key) { return QSettings(root.configFile(), QSettings::IniFormat).value(QStringLiteral("setting/") + key); }
+void store(const TestSysroot &root, const char *key, const QVariant &value) { QSettings(root.configFile(), QSettings::IniFormat).setValue(QStringLiteral("setting/") + key, value); }
+QStringList lines(const QString &file) { return QString::fromUtf8(TestSysroot::readFile(file)).split('\n', Qt::SkipEmptyParts); }
+QStringList logFiles(const TestSysroot &root) { return QDir(root.path(QStringLiteral("/CSLog"))).entryList({"*.CSLOG"}, QDir::Files, QDir::Name); }
+// The texts of a log file's lines after "yyyy-MM-dd-hh-mm-ss: "; a line without the time is marked BAD.
+QStringList texts(const QString &file)
 {
-    auto s = std::make_unique<QSettings>(file, QSettings::IniFormat);
-    s->setIniCodec("utf-8");
-    return s;
+    QStringList all = lines(file);
+    for (QString &l : all)
+        l = QRegularExpression(QStringLiteral("^\\d{4}(-\\d\\d){5}: ")).match(l).hasMatch() ? l.mid(21) : "BAD " + l;
+    return all;
 }
 } // namespace
 
@@ -22,166 +34,206 @@ class TstSettings : public QObject
 {
     Q_OBJECT
 private slots:
-    void keyTableIsCompleteAndUnique()
-    {
-        QSet<QString> names;
-        for (const auto &k : SettingsStore::kKeys)
-            names.insert(QLatin1String(k.name));
-        QCOMPARE(names.size(), 43);
-        // The shipped default file holds every key, and the "none" inputs are -1.
-        QSettings def(QStringLiteral(CS_SOURCE_DIR "/config/CS_Config.ini"), QSettings::IniFormat);
-        for (const QString &n : names)
-            QVERIFY2(def.contains(QStringLiteral("setting/") + n), qPrintable(n));
-        for (const char *none : {"inputType1", "inputType2", "inputType3", "inputAudio", "inputAudio2"})
-            QCOMPARE(def.value(QStringLiteral("setting/") + QLatin1String(none)).toInt(), -1);
-    }
+    void init() { Logger::instance().reset(); }
 
-    void readConvertsTypes_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QJsonValue>("expected");
-        QTest::newRow("int") << "fans" << "3" << QJsonValue(3);
-        QTest::newRow("negative int") << "inputType1" << "-1" << QJsonValue(-1);
-        QTest::newRow("int from junk") << "timeZone" << "abc" << QJsonValue(0);
-        QTest::newRow("string") << "rtmpAddr" << "rtmp://a.example/live/k" << QJsonValue("rtmp://a.example/live/k");
-        QTest::newRow("string of digits stays a string") << "version" << "1.2" << QJsonValue("1.2");
-        QTest::newRow("utf-8 string") << "eventName" << QString::fromUtf8("Gottesdienst ü 直播") << QJsonValue(QString::fromUtf8("Gottesdienst ü 直播"));
-    }
-    void readConvertsTypes()
-    {
-        QFETCH(QString, key);
-        QFETCH(QString, stored);
-        QFETCH(QJsonValue, expected);
-        TestSysroot root;
-        {
-            auto s = ini(root.configFile());
-            s->setValue(QStringLiteral("/setting/") + key, stored);
-        }
-        QJsonObject obj;
-        SettingsStore::read(obj);
-        QCOMPARE(obj.value(key), expected);
-        QCOMPARE(obj.size(), 1);
-    }
-
-    void writeIsGatedAndFiltered()
+    void writeIsGatedFilteredAndConverted()
     {
         TestSysroot root(true);
         const QByteArray before = TestSysroot::readFile(root.configFile());
         UiProc proc;
-        QJsonObject change{{QStringLiteral("fans"), 3}, {QStringLiteral("fnas"), 7}, {QStringLiteral("rtmpAddr"), 5}};
-        proc.writeInitConfig(change);
+        proc.writeInitConfig({{"language", 2}});
         QCOMPARE(TestSysroot::readFile(root.configFile()), before); // inert before initFinished
-        QVERIFY(!root.commands().contains(QStringLiteral("sync ")));
-
         proc.initFinished();
-        proc.writeInitConfig(change);
-        auto s = ini(root.configFile());
-        QCOMPARE(s->value(QStringLiteral("/setting/fans")).toInt(), 3);
-        QVERIFY(!s->contains(QStringLiteral("/setting/fnas")));
-        QCOMPARE(s->value(QStringLiteral("/setting/rtmpAddr")).toString(), QString()); // a number is not a string
-        QCOMPARE(s->value(QStringLiteral("/setting/language")).toInt(), -1);             // untouched
-        QCOMPARE(s->childGroups(), QStringList{QStringLiteral("setting")});
+        proc.writeInitConfig({{"fans", 3}, {"fnas", 7}, {"rtmpAddr", 5}, {"timeZone", "7"}, {"inputType", -1}});
+        QCOMPARE(stored(root, "fans").toString(), QStringLiteral("3"));
+        QCOMPARE(stored(root, "rtmpAddr").toString(), QString());          // a number is not a string
+        QCOMPARE(stored(root, "timeZone").toString(), QStringLiteral("0")); // a string is not a number
+        QCOMPARE(stored(root, "inputType").toString(), QStringLiteral("-1"));
+        QVERIFY(!stored(root, "fnas").isValid());
+        QCOMPARE(stored(root, "language").toInt(), -1); // the early write was dropped, not queued
+        QVERIFY(DiskSync::instance().waitIdle(10000));  // its sync runs in this sysroot
     }
 
-    void writeConvertsWrongTypes()
+    // While a USB recording flushes, "sync" can take seconds: saving must not wait for it.
+    void writeReturnsBeforeTheSlowSync()
+    {
+        TestSysroot root(true);
+        const QByteArray journal = root.path(QStringLiteral("/sync.journal")).toUtf8();
+        const QString sync = root.path(QStringLiteral("/bin/sync"));
+        QFile::remove(sync);
+        TestSysroot::writeFile(sync, "#!/bin/sh\necho start >> '" + journal + "'\nsleep 2\necho end >> '" + journal + "'\n");
+        QFile::setPermissions(sync, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        UiProc proc;
+        proc.initFinished();
+        QElapsedTimer t;
+        t.start();
+        proc.writeInitConfig({{"inputType", 2}});
+        QVERIFY2(t.elapsed() < 100, qPrintable(QString::number(t.elapsed())));
+        QCOMPARE(stored(root, "inputType").toInt(), 2);
+        QVERIFY(!lines(journal).contains(QStringLiteral("end")));
+        QTRY_COMPARE(lines(journal), QStringList{"start"});
+        t.restart(); // saves made while it runs share one more sync
+        proc.writeInitConfig({{"inputType", 3}});
+        proc.writeInitConfig({{"inputType", 1}});
+        QVERIFY2(t.elapsed() < 100, qPrintable(QString::number(t.elapsed())));
+        QCOMPARE(stored(root, "inputType").toInt(), 1);
+        QVERIFY(DiskSync::instance().waitIdle(10000));
+        QCOMPARE(lines(journal), (QStringList{"start", "end", "start", "end"}));
+    }
+
+    void readConvertsAndNeverRemoves()
     {
         TestSysroot root;
         UiProc proc;
-        proc.initFinished();
-        proc.writeInitConfig({{QStringLiteral("fans"), QStringLiteral("7")},
-                              {QStringLiteral("timeZone"), QJsonValue::Null},
-                              {QStringLiteral("inputType"), -1}});
-        auto s = ini(root.configFile());
-        QCOMPARE(s->value(QStringLiteral("/setting/fans")).toString(), QStringLiteral("0"));
-        QCOMPARE(s->value(QStringLiteral("/setting/timeZone")).toString(), QStringLiteral("0"));
-        QCOMPARE(s->value(QStringLiteral("/setting/inputType")).toString(), QStringLiteral("-1"));
-    }
-
-    void writeRunsSyncInTheSysroot()
-    {
-        TestSysroot root;
-        UiProc proc;
-        proc.initFinished();
-        QFile::remove(root.path(QStringLiteral("/bin/sync")));
-        QFile::link(root.path(QStringLiteral("/usr/libexec/cs-standin")), root.path(QStringLiteral("/bin/sync")));
-        proc.writeInitConfig({{QStringLiteral("fans"), 1}});
-        QCOMPARE(root.commands(), QStringList{QStringLiteral("sync ")});
-    }
-
-    void readNeverRemovesProperties()
-    {
-        TestSysroot root;
-        UiProc proc;
-        {
-            auto s = ini(root.configFile());
-            s->setValue(QStringLiteral("/setting/rtmpAddr"), QStringLiteral("x"));
-        }
+        store(root, "rtmpAddr", "x");
         proc.readInitConfig();
-        QFile::remove(root.configFile());
-        proc.readInitConfig();
-        QCOMPARE(proc.getIniData().value(QStringLiteral("rtmpAddr")).toString(), QStringLiteral("x"));
-        TestSysroot::writeFile(root.configFile(), "[setting]\nfans=2\n");
-        UiProc fresh;
-        fresh.readInitConfig();
-        QVERIFY(!fresh.getIniData().contains(QStringLiteral("rtmpAddr")));
-        QCOMPARE(fresh.getIniData().value(QStringLiteral("fans")).toInt(), 2);
-    }
-
-    void firstAndObsPath()
-    {
-        TestSysroot root;
-        UiProc proc;
-        QCOMPARE(proc.getIsFirst(), true);
-        QCOMPARE(proc.getObsPath(), QString());
-        proc.setFirstInfo(false);
-        proc.setObsPath(QStringLiteral("/media/usb0/obs"));
-        UiProc other;
-        QCOMPARE(other.getIsFirst(), false);
-        QCOMPARE(other.getObsPath(), QStringLiteral("/media/usb0/obs"));
-        // Neither key leaks into the settings object.
-        other.readInitConfig();
-        QVERIFY(!other.getIniData().contains(QStringLiteral("First")));
+        TestSysroot::writeFile(root.configFile(), "[setting]\ninputType1=-1\ntimeZone=abc\nversion=1.2\neventName=Fest \xc3\xbc \xe7\x9b\xb4\n");
+        proc.readInitConfig(); // rtmpAddr, once read, stays
+        QCOMPARE(proc.getIniData(), (QJsonObject{{"rtmpAddr", "x"}, {"inputType1", -1}, {"timeZone", 0}, {"version", "1.2"},
+                                                  {"eventName", QString::fromUtf8("Fest \xc3\xbc \xe7\x9b\xb4")}}));
+        QVERIFY(proc.getIsFirst() && proc.getObsPath().isEmpty()); // absent
     }
 
     void importFromUserdata_data()
     {
-        QTest::addColumn<bool>("activeExists");
-        QTest::addColumn<bool>("configDirExists");
-        QTest::newRow("replaces the active file") << true << true;
-        QTest::newRow("no active file") << false << true;
-        QTest::newRow("creates config dir") << false << false;
+        QTest::addColumn<bool>("active");
+        QTest::addColumn<bool>("configDir");
+        QTest::addColumn<QString>("import"); // file, folder (the copy fails) or none
+        QTest::newRow("replaces the active file") << true << true << "file";
+        QTest::newRow("creates the config folder") << false << false << "file";
+        QTest::newRow("failed copy keeps the active file") << true << true << "folder";
+        QTest::newRow("nothing to import") << true << true << "none";
     }
     void importFromUserdata()
     {
-        QFETCH(bool, activeExists);
-        QFETCH(bool, configDirExists);
+        QFETCH(bool, active);
+        QFETCH(bool, configDir);
+        QFETCH(QString, import);
         TestSysroot root;
-        CategoryCapture logs;
-        if (activeExists)
-            TestSysroot::writeFile(root.configFile(), "[setting]\nfans=1\n");
-        if (!configDirExists)
-            QDir(root.path(QStringLiteral("/usr/bin/config"))).removeRecursively();
-        TestSysroot::writeFile(root.path(QStringLiteral("/userdata/CS_Config.ini")), "[setting]\nfans=9\n");
-        UiProc proc;
-        Logger::instance().setSwitch(1); // the constructor read it from the (absent) settings
-        proc.isExistConfig();
-        QVERIFY(!QFile::exists(root.path(QStringLiteral("/userdata/CS_Config.ini"))));
-        QCOMPARE(TestSysroot::readFile(root.configFile()), QByteArray("[setting]\nfans=9\n"));
-        QVERIFY(logs.contains(QStringLiteral("find userdata config")));
-        proc.readInitConfig();
-        QCOMPARE(proc.getIniData().value(QStringLiteral("fans")).toInt(), 9);
+        const QString folder = root.path(QStringLiteral("/usr/bin/config")), source = root.path(QStringLiteral("/userdata/CS_Config.ini"));
+        const QByteArray old("[setting]\nfans=1\n"), imported("[setting]\nfans=9\n");
+        if (!configDir)
+            QDir(folder).removeRecursively();
+        if (active)
+            TestSysroot::writeFile(root.configFile(), old);
+        if (import != "none")
+            QVERIFY(import == "file" ? TestSysroot::writeFile(source, imported) : QDir().mkpath(source));
+        CategoryCapture debug("cs.settings");
+        SettingsStore::importFromUserdata();
+        const bool copied = import == "file";
+        QCOMPARE(TestSysroot::readFile(root.configFile()), copied ? imported : old);
+        QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList{"CS_Config.ini"}); // no temporary left
+        QCOMPARE(debug.lines(), import == "none" ? QStringList() : QStringList{copied ? "copy res: true" : "copy res: false"});
+        QVERIFY(!copied || !QFile::exists(source));
     }
 
-    void importWithoutUserdataFileDoesNothing()
+    void missingFileComesFromTheFactory()
+    {
+        TestSysroot root;
+        QDir(root.path(QStringLiteral("/usr/bin/config"))).removeRecursively();
+        QVERIFY(SettingsStore::ensureFile());
+        QCOMPARE(TestSysroot::readFile(root.configFile()), TestSysroot::readFile(QStringLiteral(CS_SOURCE_DIR "/config/CS_Config.ini")));
+        QVERIFY(QFile::permissions(root.configFile()) & QFile::WriteOwner); // resources are read-only
+        QJsonObject obj;
+        SettingsStore::read(obj);
+        QCOMPARE(obj.size(), 43); // every key, each once
+        QVERIFY(!SettingsStore::ensureFile()); // present now: left alone
+    }
+
+    void inputFormatNamesTheInputInTheFileNow()
     {
         TestSysroot root(true);
-        const QByteArray before = TestSysroot::readFile(root.configFile());
-        CategoryCapture logs;
+        QUdpSocket peer;
+        QVERIFY(peer.bind(QHostAddress(QHostAddress::LocalHost), 0));
+        qputenv("CS_MEDIA_PORT", QByteArray::number(peer.localPort()));
+        qputenv("CS_LISTEN_PORT", "0");
         UiProc proc;
-        proc.isExistConfig();
-        QCOMPARE(TestSysroot::readFile(root.configFile()), before);
-        QVERIFY(!logs.contains(QStringLiteral("find userdata config")));
+        proc.readInitConfig(); // the settings object says input 0 from here on
+        for (int input : {0, 1}) {
+            store(root, "curInputIndex", input);
+            QVERIFY(proc.connectSetInputSignalFormat(QJsonArray{"1920x1080@60", "1280x720@50"}));
+            QTRY_VERIFY(peer.hasPendingDatagrams());
+            QCOMPARE(peer.receiveDatagram().data().toHex(), input == 0 ? QByteArray("<T0000f0b3000800ab>").toHex() + "00800738043c00ff"
+                                                                       : QByteArray("<T0000f0b3010800ac>").toHex() + "000005d002320009");
+        }
+    }
+
+    void logNumbering_data()
+    {
+        QTest::addColumn<QStringList>("existing"); // a null entry: no /CSLog folder at all
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("removed");
+        QStringList eleven;
+        for (int i = 0; i <= 10; ++i)
+            eleven << QStringLiteral("%1.CSLOG").arg(i);
+        QTest::newRow("no dir") << QStringList{QString()} << "0.CSLOG" << "";
+        QTest::newRow("numeric not text order") << QStringList{"2.CSLOG", "10.CSLOG", "99.txt"} << "11.CSLOG" << "";
+        QTest::newRow("eleven files: oldest removed") << eleven << "11.CSLOG" << "0.CSLOG";
+        QTest::newRow("twelve files: one removed per run") << QStringList{"5.CSLOG", "7.CSLOG", "30.CSLOG", "31.CSLOG", "32.CSLOG", "33.CSLOG",
+            "34.CSLOG", "35.CSLOG", "36.CSLOG", "37.CSLOG", "38.CSLOG", "39.CSLOG"} << "40.CSLOG" << "5.CSLOG";
+    }
+    void logNumbering()
+    {
+        QFETCH(QStringList, existing);
+        QFETCH(QString, chosen);
+        QFETCH(QString, removed);
+        TestSysroot root;
+        if (existing.removeAll(QString()))
+            QDir(root.path(QStringLiteral("/CSLog"))).removeRecursively();
+        for (const QString &f : existing)
+            TestSysroot::writeFile(root.path(QStringLiteral("/CSLog/") + f), "old\n");
+        CategoryCapture console;
+        Logger &log = Logger::instance();
+        log.setSwitch(1);
+        log.write(QString()); // empty text: nothing, not even a file
+        QVERIFY(log.currentFile().isEmpty());
+        log.write(QStringLiteral("qml start"));
+        log.write(QStringLiteral("second line"));
+        log.closeFile(); // UiProc's destruction: later lines reach only the console
+        log.write(QStringLiteral("after"));
+        QStringList expected = existing.filter(QStringLiteral(".CSLOG")) << chosen;
+        expected.removeAll(removed);
+        expected.sort();
+        QCOMPARE(logFiles(root), expected);
+        QCOMPARE(texts(root.path(QStringLiteral("/CSLog/")) + chosen), (QStringList{"qml start", "second line"}));
+        const QStringList removal = removed.isEmpty() ? QStringList() : QStringList{"remove: " + removed};
+        QCOMPARE(console.lines(), (removal + QStringList{"qml start", "second line", "after"}));
+    }
+
+    // The settings import logs before the switch is read from the settings: kept (bounded) until it is known.
+    void logLinesBeforeTheSwitch()
+    {
+        TestSysroot root;
+        CategoryCapture console;
+        for (int i = 0; i < 70; ++i)
+            Logger::instance().write(QStringLiteral("early %1").arg(i));
+        QVERIFY(console.lines().isEmpty() && logFiles(root).isEmpty());
+        Logger::instance().setSwitch(1);
+        Logger::instance().write(QStringLiteral("late"));
+        const QStringList written = texts(root.path(QStringLiteral("/CSLog/0.CSLOG")));
+        QCOMPARE(written.size(), Logger::kMaxEarlyLines + 2);
+        QCOMPARE(written.mid(Logger::kMaxEarlyLines - 1), (QStringList{"early 63", "6 earlier lines were not kept: the log switch was not known yet", "late"}));
+        QCOMPARE(console.lines(), written);
+        Logger::instance().reset(); // switch 0: the early lines go nowhere
+        Logger::instance().write(QStringLiteral("early"));
+        Logger::instance().setSwitch(0);
+        QCOMPARE(console.lines(), written);
+        QCOMPARE(logFiles(root), QStringList{"0.CSLOG"});
+    }
+
+    void logFileStopsAtTheCap()
+    {
+        TestSysroot root;
+        CategoryCapture console;
+        Logger::instance().setFileCap(200);
+        Logger::instance().setSwitch(1);
+        for (int i = 0; i < 10; ++i)
+            Logger::instance().write(QStringLiteral("line %1 ").arg(i) + QString(20, 'x')); // 49 bytes with time and line end
+        const QStringList lines = texts(root.path(QStringLiteral("/CSLog/0.CSLOG")));
+        QCOMPARE(lines.size(), 5);
+        QCOMPARE(lines[3], QStringLiteral("line 3 ") + QString(20, 'x'));
+        QCOMPARE(lines[4], QStringLiteral("log file reached 196 bytes; further lines go to the console only"));
+        QCOMPARE(console.lines().size(), 11); // every line, and the notice once
     }
 };
 

@@ -3,7 +3,7 @@ import QtTest 1.2
 import "qrc:/Public"
 
 // The live store against fake native objects: reports change its state,
-// actions send the right commands and save the right keys.
+// the operator's actions send the right commands and save the right keys.
 TestCase {
     name: "LiveStore"
 
@@ -18,6 +18,7 @@ TestCase {
             function connectSetPIP(type, position) { fakeManage.note("pip " + type + " " + position) }
             function connectRec(type, code) { fakeManage.note("rec " + type + " " + code) }
             function connectGetUSBStatus() { fakeManage.note("usb?") }
+            function heartbeat() { fakeManage.note("usb?") } // the same question, logged quietly
             function connectReadInitInput() { fakeManage.note("init?") }
             function connectGetInputCurrentFormat() { fakeManage.note("formats?") }
             function connectStreamPlatformStatus() { fakeManage.note("streams?") }
@@ -49,39 +50,46 @@ TestCase {
         store.streams = [0, 0, 0, 0]
     }
 
-    function test_cutFinishedMovesTheTallyAndIsSaved() {
+    // Device echoes arrive during cuts and recordings: they move what is shown and save nothing.
+    function test_cutFinishedMovesTheTallyOnly() {
         fakeManage.uiproVideo.pushPGMCutFinish(3)
         compare(store.programmeInput, 3)
-        compare(fakeManage.saved, ['{"inputType":3}'])
+        compare(fakeManage.saved, [])
         verify(store.linkAlive)
     }
 
-    function test_switchSendsCommandsOnly() {
+    function test_switchSendsAndSavesTheChoice() {
         store.switchProgramme(2)
         compare(fakeManage.sent, ["switch 2 true"])
         compare(store.programmeInput === 2, false, "the tally waits for the device's answer")
         store.switchPip(1)
         compare(fakeManage.sent, ["switch 2 true", "switch 1 false"])
-        compare(fakeManage.saved, ['{"inputType2":1}'])
+        compare(fakeManage.saved, ['{"inputType":2}', '{"inputType2":1}'])
     }
 
-    function test_pipAndRecordCommands() {
+    function test_pipAndRecordCommandsSaveTheChoice() {
         store.pipLayout = 2
         store.setPip(true)
+        var before = Date.now()
         store.startRecording()
         store.stopRecording()
         compare(fakeManage.sent, ["pip 1 2", "rec 1 1", "rec 1 2"])
-        compare(fakeManage.saved, ['{"pipModeOpen":1}'])
+        compare(fakeManage.saved.length, 3)
+        compare(fakeManage.saved[0], '{"pipModeOpen":1}')
+        var started = JSON.parse(fakeManage.saved[1])
+        compare(started.recordStatus, 1)
+        verify(Number(started.recordStartTime) >= before && Number(started.recordStartTime) <= Date.now())
+        compare(fakeManage.saved[2], '{"recordStatus":0,"recordStartTime":""}')
     }
 
-    function test_recordingStatusStartsTheClock() {
+    function test_recordingStatusStartsTheClockOnly() {
         fakeManage.uiproVideo.pushRecordingStatus(1)
         verify(store.recording)
         verify(store.onAir)
         verify(Math.abs(store.recordStartMs - Date.now()) < 5000)
         fakeManage.uiproVideo.pushRecordingStatus(0)
         verify(!store.recording)
-        compare(JSON.parse(fakeManage.saved[1]).recordStartTime, "")
+        compare(fakeManage.saved, [])
     }
 
     function test_streamStatusPerChannel_data() {
