@@ -1,6 +1,7 @@
 #include "UiproGetAudioShareData.h"
 
 #include "LogCategories.h"
+#include "Logger.h"
 
 #include <QPointer>
 #include <QtEndian>
@@ -16,6 +17,23 @@
 #include <sys/ipc.h>
 #include <sys/shm.h>
 #include <unistd.h>
+
+namespace {
+// Ends the process from the poller thread with status 1. exit() would run
+// static destructors here while the GUI and other threads still use those
+// objects, so what must reach the disk is flushed by hand and the process
+// ends without them.
+[[noreturn]] void endProcess(const char *message, int err)
+{
+    std::fputs(message, stdout);
+    std::fflush(stdout);
+    writeLog(QStringLiteral("%1: %2").arg(QString::fromLatin1(message).trimmed(),
+                                         QString::fromLocal8Bit(std::strerror(err))));
+    Logger::instance().closeFile();
+    std::fflush(nullptr);
+    std::_Exit(1);
+}
+} // namespace
 
 struct UiproGetAudioShareData::Poller
 {
@@ -76,19 +94,13 @@ void UiproGetAudioShareData::getShareAudioData()
     m_pollers.push_back(poller);
     std::thread([this, poller] {
         const int id = shmget(shmKey(), kSegmentSize, IPC_CREAT | 0666);
-        if (id < 0) {
-            // The levels are part of the device contract: without them the
-            // front end does not run.
-            std::fputs("shmget Audio_bd failed\r", stdout);
-            std::fflush(stdout);
-            std::exit(1);
-        }
+        // The levels are part of the device contract: without them the
+        // front end does not run.
+        if (id < 0)
+            endProcess("shmget Audio_bd failed\r", errno);
         void *addr = shmat(id, nullptr, 0);
-        if (addr == reinterpret_cast<void *>(-1)) {
-            std::fputs("shmat Audio_bd failed", stdout);
-            std::fflush(stdout);
-            std::exit(1);
-        }
+        if (addr == reinterpret_cast<void *>(-1))
+            endProcess("shmat Audio_bd failed", errno);
         // Start from silence: the producer's last values are stale.
         std::memset(addr, 0, kSegmentSize);
         m_shmAddr.store(addr);
