@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -15,6 +16,7 @@
 #include <ctime>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <sched.h>
@@ -61,12 +63,40 @@ qint64 nowNs(clockid_t clock)
 
 constexpr int kBackoffMs = 200;
 constexpr int kWaitSliceMs = 200;
+// How often a reader makes sure its segment was not removed by the producer
+// (one IPC_STAT): a re-created segment is picked up within this time.
+constexpr qint64 kSegmentCheckMs = 200;
 constexpr int kPoolMax = 6;
 constexpr int kReaderCpu = 4;
 // Frames are taken at most this often (250 per second, above any display
 // rate): a runaway producer cannot make the reader burn a core on frames
 // no screen will show. A producer at display rates never waits for it.
 constexpr qint64 kMinFrameIntervalNs = 4000000;
+
+// Up to five lines at once, then one a second per kind of event: a rare
+// event is always told, a flood of them does not flood the log.
+struct LogGate
+{
+    static constexpr int kBurst = 5;
+    qint64 refillMs = 0;
+    qint64 tokens = 0;
+    quint64 held = 0;
+    // 0 while lines are held back; else the events this line stands for.
+    quint64 pass()
+    {
+        const qint64 now = nowNs(CLOCK_MONOTONIC) / 1000000;
+        const qint64 earned = (now - refillMs) / 1000;
+        if (earned > 0) {
+            tokens = std::min<qint64>(kBurst, tokens + earned);
+            refillMs += earned * 1000;
+        }
+        ++held;
+        if (tokens == 0)
+            return 0;
+        --tokens;
+        return std::exchange(held, 0);
+    }
+};
 
 } // namespace
 
@@ -75,11 +105,21 @@ std::atomic<FrameHook *> g_hook{nullptr};
 void setFrameHook(FrameHook *hook) { g_hook.store(hook); }
 } // namespace PreviewReaderHooks
 
+struct UiproGetImageShareData::Segment
+{
+    // Held for every copy out of the segment and while a reader swaps the
+    // mapping, so no reader copies from a mapping another one let go.
+    std::mutex lock;
+    std::atomic<uint8_t *> addr{nullptr};
+    std::atomic<int> id{-1};
+    key_t key = 0;
+};
+
 // Shared by the object and its reader thread, so the thread never touches a
 // destroyed object.
 struct UiproGetImageShareData::ReaderState
 {
-    const uint8_t *segment = nullptr;
+    std::shared_ptr<Segment> segment;
     int semKey = 0;
     std::atomic<int> semId{-1};
     std::atomic<bool> stop{false};
@@ -90,14 +130,18 @@ struct UiproGetImageShareData::ReaderState
     // per frame costs page faults on every frame.
     std::vector<QImage> pool;
 
-    qint64 lastRefusalLogMs = 0;
-    quint64 refusalsSinceLog = 0;
+    LogGate refusalLog;
+    LogGate removedLog, attachedLog, attachFailedLog;
+    qint64 lastSegmentCheckMs = 0;
+    bool segmentSuspect = false; // check before the next frame, not a period later
 
     QImage acquire(int width, int height, uint8_t **pixels);
     bool waitReady();
     void release();
     void refuse(const char *why, quint32 width, quint32 height);
     int reopenSet();
+    bool segmentUsable();
+    void copyFrame();
     void run();
 };
 
@@ -138,6 +182,7 @@ bool UiproGetImageShareData::ReaderState::waitReady()
         const int again = reopenSet();
         if (again >= 0) {
             semId.store(again);
+            segmentSuspect = true; // a producer that re-created its set may have a new segment too
             qCInfo(lcPreview).noquote() << "preview: frame semaphores available again, reading resumes";
         }
         return false;
@@ -157,6 +202,7 @@ bool UiproGetImageShareData::ReaderState::waitReady()
         qCWarning(lcPreview).noquote() << "preview: frame semaphores gone (" << std::strerror(err)
                                        << "), waiting for the producer";
         semId.store(-1);
+        segmentSuspect = true;
     } else {
         std::this_thread::sleep_for(std::chrono::milliseconds(kBackoffMs));
     }
@@ -199,18 +245,101 @@ void UiproGetImageShareData::ReaderState::release()
 void UiproGetImageShareData::ReaderState::refuse(const char *why, quint32 width, quint32 height)
 {
     refused.fetch_add(1);
-    ++refusalsSinceLog;
-    const qint64 now = nowNs(CLOCK_MONOTONIC) / 1000000;
-    if (lastRefusalLogMs == 0 || now - lastRefusalLogMs >= 1000) {
+    if (const quint64 count = refusalLog.pass())
         qCWarning(lcPreview).noquote()
             << QStringLiteral("preview: refused frame %1x%2 (%3), %4 refused since last report")
                    .arg(width)
                    .arg(height)
                    .arg(QLatin1String(why))
-                   .arg(refusalsSinceLog);
-        lastRefusalLogMs = now;
-        refusalsSinceLog = 0;
+                   .arg(count);
+}
+
+// True when a segment is mapped, possibly one attached just now. The segment
+// belongs to the producer: one it removed (it stays mapped, marked SHM_DEST,
+// until we let go) is detached, and the segment under the key is attached as
+// soon as it exists with the full size. Never creates one.
+bool UiproGetImageShareData::ReaderState::segmentUsable()
+{
+    std::lock_guard<std::mutex> hold(segment->lock);
+    uint8_t *addr = segment->addr.load();
+    if (addr) {
+        shmid_ds ds{};
+        const bool gone = shmctl(segment->id.load(), IPC_STAT, &ds) == 0 ? (ds.shm_perm.mode & SHM_DEST) != 0
+                                                                       : errno == EIDRM || errno == EINVAL;
+        if (!gone)
+            return true;
+        shmdt(addr);
+        segment->addr.store(nullptr);
+        segment->id.store(-1);
+        if (removedLog.pass())
+            qCWarning(lcPreview).noquote() << "preview: frame buffer removed by the producer, waiting for a new one";
     }
+    const int id = shmget(segment->key, kSegmentSize, 0);
+    void *p = id < 0 ? reinterpret_cast<void *>(-1) : shmat(id, nullptr, 0);
+    if (p == reinterpret_cast<void *>(-1)) {
+        const int err = errno;
+        // ENOENT: not there yet, the usual state while the producer restarts.
+        if (err != ENOENT && attachFailedLog.pass())
+            qCWarning(lcPreview).noquote()
+                << QStringLiteral("preview: cannot attach the new frame buffer (%1), retrying")
+                       .arg(QString::fromLocal8Bit(std::strerror(err)));
+        return false;
+    }
+    segment->addr.store(static_cast<uint8_t *>(p));
+    segment->id.store(id);
+    if (attachedLog.pass())
+        qCInfo(lcPreview).noquote() << "preview: frame buffer attached again, reading resumes";
+    return true;
+}
+
+// One frame out of the segment, then the buffer is handed back to the producer.
+void UiproGetImageShareData::ReaderState::copyFrame()
+{
+    const qint64 cpuStart = nowNs(CLOCK_THREAD_CPUTIME_ID);
+    QImage frame;
+    quint32 w = 0, h = 0;
+    const char *refusal = nullptr;
+    {
+        std::lock_guard<std::mutex> hold(segment->lock);
+        const uint8_t *seg = segment->addr.load();
+        if (seg) {
+            std::memcpy(&w, seg, 4);
+            std::memcpy(&h, seg + 4, 4);
+            w = qFromLittleEndian(w);
+            h = qFromLittleEndian(h);
+        }
+        const quint64 n = quint64(w) * quint64(h) * 3u;
+        if (w == 0 || h == 0) {
+            // a null frame (or no segment): nothing to show
+        } else if (n > kPixelArea || w > 32767 || h > 32767) {
+            // Never read past the segment, whatever the header says.
+            refusal = n > kPixelArea ? "larger than the frame buffer" : "wider or taller than an image can be";
+        } else {
+            uint8_t *pixels = nullptr;
+            frame = acquire(int(w), int(h), &pixels);
+            if (frame.isNull())
+                refusal = "no memory for the image";
+            else
+                // The one pass over the frame is the copy out of the segment:
+                // it converts to the display format on the way (the scene
+                // graph would otherwise convert every RGB888 frame on the GUI
+                // thread) and takes about as long as a plain copy, so the
+                // buffer is held no longer. Rows are packed (width * 3 bytes,
+                // any width); the image has its own aligned stride.
+                PreviewConvert::rgb888ToRgb32(seg + kHeaderSize, size_t(w) * 3u, pixels,
+                                              size_t(frame.bytesPerLine()), int(w), int(h));
+        }
+    }
+    release();
+    if (refusal) {
+        refuse(refusal, w, h);
+        return;
+    }
+    if (frame.isNull())
+        return;
+    UiprocImageShow::deliverToCurrent(frame);
+    if (PreviewReaderHooks::FrameHook *hook = PreviewReaderHooks::g_hook.load())
+        (*hook)(frame, nowNs(CLOCK_MONOTONIC), nowNs(CLOCK_THREAD_CPUTIME_ID) - cpuStart);
 }
 
 void UiproGetImageShareData::ReaderState::run()
@@ -232,45 +361,20 @@ void UiproGetImageShareData::ReaderState::run()
         const qint64 early = lastFrameNs + kMinFrameIntervalNs - nowNs(CLOCK_MONOTONIC);
         if (early > 0)
             std::this_thread::sleep_for(std::chrono::nanoseconds(early));
+        const qint64 nowMs = nowNs(CLOCK_MONOTONIC) / 1000000;
+        if (segmentSuspect || !segment->addr.load() || nowMs - lastSegmentCheckMs >= kSegmentCheckMs) {
+            segmentSuspect = false;
+            lastSegmentCheckMs = nowMs;
+            if (!segmentUsable()) {
+                // Leave the frame-ready count alone until there is a segment to read.
+                std::this_thread::sleep_for(std::chrono::milliseconds(kBackoffMs));
+                continue;
+            }
+        }
         if (!waitReady())
             continue;
         lastFrameNs = nowNs(CLOCK_MONOTONIC);
-        const qint64 cpuStart = nowNs(CLOCK_THREAD_CPUTIME_ID);
-        quint32 w = 0, h = 0;
-        std::memcpy(&w, segment, 4);
-        std::memcpy(&h, segment + 4, 4);
-        w = qFromLittleEndian(w);
-        h = qFromLittleEndian(h);
-        const quint64 n = quint64(w) * quint64(h) * 3u;
-        if (w == 0 || h == 0) {
-            release(); // a null frame: nothing to show
-            continue;
-        }
-        if (n > kPixelArea || w > 32767 || h > 32767) {
-            // Never read past the segment, whatever the header says.
-            release();
-            refuse(n > kPixelArea ? "larger than the frame buffer" : "wider or taller than an image can be", w, h);
-            continue;
-        }
-        uint8_t *pixels = nullptr;
-        QImage frame = acquire(int(w), int(h), &pixels);
-        if (frame.isNull()) {
-            release();
-            refuse("no memory for the image", w, h);
-            continue;
-        }
-        // The one pass over the frame is the copy out of the segment: it
-        // converts to the display format on the way (the scene graph would
-        // otherwise convert every RGB888 frame on the GUI thread) and takes
-        // about as long as a plain copy, so the buffer is held no longer.
-        // Rows are packed (width * 3 bytes, any width); the image has its own
-        // aligned stride.
-        PreviewConvert::rgb888ToRgb32(segment + kHeaderSize, size_t(w) * 3u, pixels,
-                                      size_t(frame.bytesPerLine()), int(w), int(h));
-        release();
-        UiprocImageShow::deliverToCurrent(frame);
-        if (PreviewReaderHooks::FrameHook *hook = PreviewReaderHooks::g_hook.load())
-            (*hook)(frame, nowNs(CLOCK_MONOTONIC), nowNs(CLOCK_THREAD_CPUTIME_ID) - cpuStart);
+        copyFrame();
     }
     running.store(false);
 }
@@ -280,6 +384,7 @@ int UiproGetImageShareData::semKey() { return envKey("CS_PREVIEW_SEM_KEY", kDefa
 
 UiproGetImageShareData::UiproGetImageShareData(QObject *parent)
     : QObject(parent)
+    , m_segment(std::make_shared<Segment>())
 {
     attach(SingleBuffer);
 }
@@ -317,11 +422,14 @@ void UiproGetImageShareData::attach(Mode mode)
     controlSem(m_semId, 0, SETVAL, 1);
     controlSem(m_semId, 1, SETVAL, 0);
 
-    m_shmId = createShm(shmKey(), kSegmentSize, IPC_CREAT | 0666);
+    m_segment->key = shmKey();
+    const int shmId = createShm(m_segment->key, kSegmentSize, IPC_CREAT | 0666);
+    m_segment->id.store(shmId);
     if (mode == SingleBuffer) {
         errno = 0;
-        m_shmAddr = attachShm(m_shmId, nullptr, 0);
-        m_attachErrno = m_shmAddr ? 0 : (errno ? errno : EINVAL);
+        void *addr = attachShm(shmId, nullptr, 0);
+        m_segment->addr.store(static_cast<uint8_t *>(addr));
+        m_attachErrno = addr ? 0 : (errno ? errno : EINVAL);
     } else {
         out("vorn select NULL");
     }
@@ -433,11 +541,12 @@ int UiproGetImageShareData::deleteSem()
 int UiproGetImageShareData::detach(Mode mode)
 {
     if (mode == SingleBuffer) {
-        if (!m_shmAddr || shmdt(m_shmAddr) < 0) {
+        std::lock_guard<std::mutex> hold(m_segment->lock);
+        uint8_t *addr = m_segment->addr.exchange(nullptr);
+        if (!addr || shmdt(addr) < 0) {
             out("shmdt shared_data_t failed\r");
             return -1;
         }
-        m_shmAddr = nullptr;
         return 0;
     }
     int result = 0;
@@ -467,9 +576,9 @@ void UiproGetImageShareData::pinThread(unsigned long mask, pthread_t thread)
 bool UiproGetImageShareData::takeFrame(uint8_t **data, int *width, int *height, Mode mode)
 {
     if (mode == SingleBuffer) {
-        if (!m_shmAddr)
+        uint8_t *seg = m_segment->addr.load();
+        if (!seg)
             return false;
-        auto *seg = static_cast<uint8_t *>(m_shmAddr);
         quint32 w = 0, h = 0;
         std::memcpy(&w, seg, 4);
         std::memcpy(&h, seg + 4, 4);
@@ -511,7 +620,7 @@ bool UiproGetImageShareData::takeFrame(uint8_t **data, int *width, int *height, 
 void UiproGetImageShareData::getShareImageData()
 {
     out("getShareImageData=============");
-    if (!m_shmAddr) {
+    if (!isAttached()) {
         // Reading an unattached segment would crash: say so again and stay idle.
         std::printf("==vorn shmat error: %s. \n", std::strerror(m_attachErrno ? m_attachErrno : EINVAL));
         std::fflush(stdout);
@@ -519,7 +628,7 @@ void UiproGetImageShareData::getShareImageData()
         return;
     }
     auto state = std::make_shared<ReaderState>();
-    state->segment = static_cast<const uint8_t *>(m_shmAddr);
+    state->segment = m_segment;
     state->semKey = semKey();
     state->semId.store(m_semId);
     state->running.store(true);
@@ -528,6 +637,10 @@ void UiproGetImageShareData::getShareImageData()
 }
 
 void UiproGetImageShareData::setShareImageFlag(bool flag) { m_shareImageFlag = flag; }
+
+bool UiproGetImageShareData::isAttached() const { return m_segment->addr.load() != nullptr; }
+
+int UiproGetImageShareData::shmId() const { return m_segment->id.load(); }
 
 void UiproGetImageShareData::stopReader()
 {

@@ -49,11 +49,13 @@ public:
     int detach(Mode mode);
     void pinThread(unsigned long mask, pthread_t thread);
     // Points at the frame in the segment: data, width (header word 0), height (word 1).
+    // In single-buffer mode the pointer is valid until a reader attaches a
+    // segment the producer re-created.
     bool takeFrame(uint8_t **data, int *width, int *height, Mode mode);
 
-    bool isAttached() const { return m_shmAddr != nullptr; }
+    bool isAttached() const;
     int semId() const { return m_semId; }
-    int shmId() const { return m_shmId; }
+    int shmId() const;
 
     // Stops the reader thread (tests and tools; the application never stops it).
     void stopReader();
@@ -68,16 +70,18 @@ public slots:
 
 public:
     struct ReaderState;
+    struct Segment;
 
 private:
     void attach(Mode mode);
 
-    void *m_shmAddr = nullptr;          // single-buffer frame segment
+    // The single-buffer frame segment, shared with the readers, which attach
+    // a new one when the producer re-creates it.
+    std::shared_ptr<Segment> m_segment;
     void *m_shmAddrs[2] = {nullptr, nullptr};
     int m_bufSemIds[4] = {0, 0, 0, 0};  // two-buffer mode: free/written per buffer
     int m_lastBuffer = 0;
     uint8_t *m_frame = nullptr;
-    int m_shmId = -1;
     int m_semId = -1;
     bool m_shareImageFlag = false;
 

@@ -1,115 +1,76 @@
 #pragma once
 // A stand-in for the media service's frame writer: follows the hand-shake
 // (wait "buffer free", write header and pixels, post "frame ready") on
-// private keys chosen from the process id, and removes its objects at the end.
+// private keys chosen from the process id.
 #include <QImage>
 #include <QtEndian>
-#include <QtGlobal>
 
 #include <cerrno>
-#include <cstdint>
+#include <cstdio>
 #include <cstring>
-#include <ctime>
 #include <vector>
 
-#include <sys/ipc.h>
 #include <sys/sem.h>
 #include <sys/shm.h>
 #include <unistd.h>
 
 namespace PreviewTest {
 
-constexpr size_t kSegmentSize = 9437192;
-
 // Distinct keys per process and purpose, so tests can run in parallel.
-inline int privateKey(int purpose)
-{
-    return 0x43000000 | ((int(getpid()) & 0xfffff) << 4) | (purpose & 0xf);
-}
-
-inline uint8_t patternByte(int x, int y, int c, int seed)
-{
-    return uint8_t((x * 7 + y * 13 + c * 61 + seed * 29) & 0xff);
-}
+inline int privateKey(int purpose) { return 0x43000000 | ((int(getpid()) & 0xfffff) << 4) | (purpose & 0xf); }
 
 // Packed RGB888 rows (width * 3 bytes each, no padding).
 inline std::vector<uint8_t> makePattern(int w, int h, int seed)
 {
     std::vector<uint8_t> px(size_t(w) * size_t(h) * 3);
-    size_t i = 0;
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x)
-            for (int c = 0; c < 3; ++c)
-                px[i++] = patternByte(x, y, c, seed);
+    for (size_t i = 0; i < px.size(); ++i)
+        px[i] = uint8_t((i % (size_t(w) * 3)) * 7 + (i / (size_t(w) * 3)) * 13 + seed * 29);
     return px;
 }
 
-// Index of the first pixel whose colour differs, or -1.
-inline long long firstMismatch(const QImage &img, const std::vector<uint8_t> &px, int w, int h)
+// The picture the reader must show for these pixels.
+inline QImage expectedImage(const std::vector<uint8_t> &px, int w, int h)
 {
-    if (img.width() != w || img.height() != h)
-        return 0;
-    for (int y = 0; y < h; ++y) {
-        for (int x = 0; x < w; ++x) {
-            const QRgb p = img.pixel(x, y);
-            const uint8_t *e = px.data() + (size_t(y) * w + x) * 3;
-            if (qRed(p) != e[0] || qGreen(p) != e[1] || qBlue(p) != e[2])
-                return (long long)y * w + x;
-        }
-    }
-    return -1;
+    return QImage(px.data(), w, h, w * 3, QImage::Format_RGB888).convertToFormat(QImage::Format_RGB32);
 }
 
 class Producer
 {
 public:
-    Producer(int shmKey, int semKey)
-        : m_shmKey(shmKey), m_semKey(semKey)
+    Producer(int shmKey, int semKey) : m_shmKey(shmKey), m_semKey(semKey) { restart(true, true); }
+    // Creates the segment and/or the set under the keys, as a (re)started
+    // service does; a new set holds zeros.
+    void restart(bool segment, bool set)
     {
-        m_shmId = shmget(shmKey, kSegmentSize, IPC_CREAT | 0666);
-        if (m_shmId >= 0) {
-            void *p = shmat(m_shmId, nullptr, 0);
+        if (segment) {
+            m_shmId = shmget(m_shmKey, 9437192, IPC_CREAT | 0666);
+            void *p = m_shmId < 0 ? reinterpret_cast<void *>(-1) : shmat(m_shmId, nullptr, 0);
             m_seg = p == reinterpret_cast<void *>(-1) ? nullptr : static_cast<uint8_t *>(p);
         }
-        openSet();
+        if (set)
+            m_semId = semget(m_semKey, 2, IPC_CREAT | 0600);
     }
-    ~Producer()
+    void removeSegment()
     {
-        if (m_seg)
-            shmdt(m_seg);
+        shmdt(m_seg);
+        m_seg = nullptr;
+        shmctl(m_shmId, IPC_RMID, nullptr);
     }
-    // Removes the segment and the set from the system.
-    void removeAll()
-    {
-        if (m_semId >= 0)
-            semctl(m_semId, 0, IPC_RMID);
-        if (m_shmId >= 0)
-            shmctl(m_shmId, IPC_RMID, nullptr);
-        m_semId = -1;
-    }
+    void removeSet() { semctl(m_semId, 0, IPC_RMID); }
+    void removeAll() { removeSet(); removeSegment(); }
     bool ok() const { return m_seg && m_semId >= 0; }
-    int semId() const { return m_semId; }
+    int shmId() const { return m_shmId; }
     uint8_t *segment() const { return m_seg; }
-
-    void openSet() { m_semId = semget(m_semKey, 2, IPC_CREAT | 0600); }
-    void removeSet()
-    {
-        semctl(m_semId, 0, IPC_RMID);
-        m_semId = -1;
-    }
-
     int value(int num) const { return semctl(m_semId, num, GETVAL); }
-    void setValue(int num, int v) { semctl(m_semId, num, SETVAL, v); }
 
     // Waits up to timeoutMs for the buffer to be free.
     bool acquire(int timeoutMs)
     {
         sembuf op{0, -1, 0};
         timespec ts{timeoutMs / 1000, (timeoutMs % 1000) * 1000000L};
-        while (semtimedop(m_semId, &op, 1, &ts) != 0) {
+        while (semtimedop(m_semId, &op, 1, &ts) != 0)
             if (errno != EINTR)
                 return false;
-        }
         return true;
     }
     void post()
@@ -119,47 +80,34 @@ public:
     }
     void writeHeader(quint32 w, quint32 h)
     {
-        const quint32 lw = qToLittleEndian(w), lh = qToLittleEndian(h);
-        std::memcpy(m_seg, &lw, 4);
-        std::memcpy(m_seg + 4, &lh, 4);
+        const quint32 le[2] = {qToLittleEndian(w), qToLittleEndian(h)};
+        std::memcpy(m_seg, le, 8);
     }
-    // One whole frame through the hand-shake.
-    bool send(int w, int h, const std::vector<uint8_t> &px, int timeoutMs = 2000)
-    {
-        if (!acquire(timeoutMs))
-            return false;
-        writeHeader(quint32(w), quint32(h));
-        std::memcpy(m_seg + 8, px.data(), px.size());
-        post();
-        return true;
-    }
-    bool sendHeaderOnly(quint32 w, quint32 h, int timeoutMs = 2000)
+    // One frame through the hand-shake; no pixels: the header only.
+    bool send(quint32 w, quint32 h, const std::vector<uint8_t> &px = {}, int timeoutMs = 2000)
     {
         if (!acquire(timeoutMs))
             return false;
         writeHeader(w, h);
+        if (!px.empty())
+            std::memcpy(m_seg + 8, px.data(), px.size());
         post();
         return true;
     }
 
 private:
-    int m_shmKey;
-    int m_semKey;
-    int m_shmId = -1;
-    int m_semId = -1;
+    int m_shmKey, m_semKey, m_shmId = -1, m_semId = -1;
     uint8_t *m_seg = nullptr;
 };
 
-// Captures what the process writes to standard output (the product prints
-// its System V diagnostics there).
+// What the process writes to standard output (the product prints its System
+// V diagnostics there) from construction to finish().
 class StdoutCapture
 {
 public:
     StdoutCapture()
     {
         fflush(stdout);
-        m_saved = dup(1);
-        m_file = tmpfile();
         dup2(fileno(m_file), 1);
     }
     ~StdoutCapture() { finish(); }
@@ -170,19 +118,16 @@ public:
             dup2(m_saved, 1);
             close(m_saved);
             m_saved = -1;
-            rewind(m_file);
-            char buf[4096];
-            size_t n;
-            while ((n = fread(buf, 1, sizeof buf, m_file)) > 0)
-                m_text.append(buf, int(n));
+            m_text.resize(int(lseek(fileno(m_file), 0, SEEK_END)));
+            m_text.resize(int(pread(fileno(m_file), m_text.data(), size_t(m_text.size()), 0)));
             fclose(m_file);
         }
         return m_text;
     }
 
 private:
-    int m_saved = -1;
-    FILE *m_file = nullptr;
+    int m_saved = dup(1);
+    FILE *m_file = tmpfile();
     QByteArray m_text;
 };
 
