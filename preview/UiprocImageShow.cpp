@@ -1,7 +1,5 @@
 #include "UiprocImageShow.h"
 
-#include <QDeadlineTimer>
-#include <QElapsedTimer>
 #include <QPixmap>
 
 #include <pthread.h>
@@ -13,11 +11,6 @@ namespace {
 std::atomic<UiprocImageShow *> g_lastShow{nullptr};
 // Held while the reader hands a frame over and while an instance goes away.
 QMutex g_lastShowMutex;
-
-qint64 monotonicMs()
-{
-    return QDeadlineTimer::current().deadline();
-}
 } // namespace
 
 UiprocImageProvider::UiprocImageProvider()
@@ -34,8 +27,6 @@ UiprocImageProvider::UiprocImageProvider(std::shared_ptr<PreviewFrameSlot> slot)
 QImage UiprocImageProvider::takeForServing()
 {
     QMutexLocker lock(&m_slot->mutex);
-    // The screen has fetched: the next frame may signal again.
-    m_slot->refreshPending = false;
     if (!m_slot->frame.isNull()) {
         m_slot->served.fetch_add(1, std::memory_order_relaxed);
         m_slot->lastServedSerial.store(m_slot->delivered.load(std::memory_order_relaxed), std::memory_order_relaxed);
@@ -109,24 +100,15 @@ void UiprocImageShow::deliverFrame(const QImage &frame)
 
 void UiprocImageShow::storeAndNotify(QImage &&frame)
 {
-    bool signal = false;
+    PreviewFrameSlot &slot = *m_slot;
     {
-        QMutexLocker lock(&m_slot->mutex);
-        m_slot->frame.swap(frame);
-        m_slot->delivered.fetch_add(1, std::memory_order_relaxed);
-        const qint64 now = monotonicMs();
-        // A producer faster than the display must not queue a load per frame:
-        // newer frames replace the waiting one until the screen fetches it.
-        if (!m_slot->refreshPending || now - m_slot->pendingSinceMs >= kRefreshRearmMs) {
-            m_slot->refreshPending = true;
-            m_slot->pendingSinceMs = now;
-            signal = true;
-        }
+        QMutexLocker lock(&slot.mutex);
+        slot.frame.swap(frame);
+        slot.delivered.fetch_add(1, std::memory_order_relaxed);
     }
     // The old frame (now in `frame`) is released outside the lock.
     frame = QImage();
-    if (signal)
-        emit callRefreshMainImg();
+    emit callRefreshMainImg();
 }
 
 void UiprocImageShow::setCore()

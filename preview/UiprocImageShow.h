@@ -15,9 +15,6 @@ struct PreviewFrameSlot
 {
     QMutex mutex;     // guards frame; image handles are not safe to swap under concurrent readers
     QImage frame;
-    // Refresh coalescing: at most one load outstanding. Written under mutex.
-    bool refreshPending = false;
-    qint64 pendingSinceMs = 0;
     std::atomic<quint64> served{0};      // frames handed to the engine
     std::atomic<quint64> delivered{0};   // frames stored in the slot
     std::atomic<quint64> lastServedSerial{0}; // `delivered` count of the frame served last
@@ -59,11 +56,6 @@ public:
     // frame reader, whose images are already in the display format.
     void deliverFrame(const QImage &frame);
 
-    // If nothing fetched the frame within this time after a refresh signal,
-    // the next frame signals again (a refresh the screen skipped must not
-    // stop the preview for good).
-    static constexpr int kRefreshRearmMs = 200;
-
     quint64 framesDelivered() const { return m_slot->delivered.load(); }
     quint64 framesServed() const { return m_slot->served.load(); }
     // Which frame the screen fetched last (1 = the first frame delivered);
@@ -71,6 +63,9 @@ public:
     quint64 lastServedFrame() const { return m_slot->lastServedSerial.load(); }
 
 signals:
+    // Emitted for every frame stored, from the thread that stored it. A
+    // producer faster than the display is the preview control's business: it
+    // fetches at most one frame per frame it draws.
     void callRefreshMainImg();
 
 public slots:

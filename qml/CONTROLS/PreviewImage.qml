@@ -1,10 +1,12 @@
 import QtQuick 2.15
 import QtQuick.Window 2.15
 
-// The live preview picture. It follows the frame source's refresh signal and
-// fetches each frame from the "MyMainCodeImg" provider; the changing id
-// defeats the image cache. `live` turns false when no frame came for
-// `staleAfterMs`, so a screen can show that there is no signal.
+// The live preview picture. It follows the frame source's refresh signal,
+// which comes for every frame, and fetches from the "MyMainCodeImg" provider
+// at most one frame per frame the window draws: this is the one place where
+// a producer faster than the display is slowed down. The changing id defeats
+// the image cache. `live` turns false when no frame came for `staleAfterMs`,
+// so a screen can show that there is no signal.
 Item {
     id: preview
 
@@ -27,8 +29,9 @@ Item {
         property bool live: false
         property int framesShown: 0
         // One fetch per displayed frame: a fetch made since the last swap
-        // defers the next one to the swap, so a fast producer cannot make
-        // the GUI thread load frames that would never be seen.
+        // defers the next one to the swap (only the newest frame is fetched
+        // then), so a fast producer cannot make the GUI thread load frames
+        // that would never be seen.
         property bool fetchedSinceSwap: false
         property bool deferred: false
 
@@ -36,15 +39,13 @@ Item {
             picture.source = "image://MyMainCodeImg/" + Math.random()
             if (picture.status === Image.Ready)
                 framesShown++
-            const win = preview.Window.window
-            fetchedSinceSwap = win !== null && win.visible
-            if (fetchedSinceSwap)
-                swapGuard.restart()
+            fetchedSinceSwap = true
+            swapGuard.restart()
         }
     }
 
-    // A window that stops swapping (hidden, minimised) must not hold the
-    // preview back for good.
+    // No window, or one that stops swapping (hidden, minimised), must not
+    // hold the preview back for good: it fetches at this pace instead.
     Timer {
         id: swapGuard
         interval: 100
