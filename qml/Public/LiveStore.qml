@@ -71,9 +71,11 @@ QtObject {
         manage.uiproc.connectRec(1, 2)
         manage.uiproc.writeInitConfig({ "recordStatus": 0, "recordStartTime": "" })
     }
+    // Keep-alive: the USB status question doubles as the link check. The
+    // native side logs the repeated question and answer once a minute only.
     function poll() {
         nowMs = Date.now()
-        manage.uiproc.connectGetUSBStatus()
+        manage.uiproc.heartbeat()
     }
 
     property Connections reports: Connections {
