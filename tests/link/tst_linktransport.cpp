@@ -246,55 +246,6 @@ private slots:
         QCOMPARE(spy.count(), 10);
     }
 
-    void stoppedReceiveLoopPutsBackWhatItHeld()
-    {
-        fx->proc.reset(); // no other loop may take from the shared queues here
-        clearSharedQueues();
-        auto *worker = new biz_CMDSWork; // never deleted, as in UiProc
-        QObject receiver;
-        QList<int> got;
-        QObject::connect(worker, &biz_CMDSWork::signalSendReceiveMessage, &receiver,
-                         [&](const model_Protocoldata &rec) { got << rec.DAT2; }, Qt::BlockingQueuedConnection);
-        {
-            // Six reports queued at once: the loop takes them as one batch.
-            QMutexLocker lock(&biz_CMDSWork::receiveHexCmdlock);
-            for (int i = 0; i < 6; ++i) {
-                model_Protocoldata rec;
-                rec.CMD = 0xD0;
-                rec.DAT2 = uchar(i);
-                biz_CMDSWork::receivequeueHexCmd.append(rec);
-            }
-        }
-        worker->bReceiveRun = true;
-        std::thread(&biz_CMDSWork::x1_receiveGetQueueWork, worker).detach();
-        QElapsedTimer waited;
-        waited.start();
-        while (!worker->isHandingOver() && waited.elapsed() < 2000)
-            QThread::msleep(1);
-        QVERIFY(worker->isHandingOver());
-        QCOMPARE(sharedReportQueueSize(), 0); // all six are with the loop
-        worker->stop();
-        while (worker->isHandingOver())
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-        QCOMPARE(got, QList<int>{0}); // the one in flight was handed over...
-        QMutexLocker lock(&biz_CMDSWork::receiveHexCmdlock);
-        QList<int> left;
-        for (const model_Protocoldata &rec : qAsConst(biz_CMDSWork::receivequeueHexCmd))
-            left << rec.DAT2;
-        QCOMPARE(left, (QList<int>{1, 2, 3, 4, 5})); // ...the rest is back in order
-        biz_CMDSWork::receivequeueHexCmd.clear();
-    }
-
-    void noWorkerWithoutUiProc()
-    {
-        fx->proc.reset();
-        QCOMPARE(UiProc::processWorker(), static_cast<biz_CMDSWork *>(nullptr));
-        fx->proc.reset(new UiProc);
-        QVERIFY(UiProc::processWorker() != nullptr);
-        QSignalSpy spy(fx->proc.get(), &UiProc::uiChangeUI);
-        QVERIFY(reportFlows(spy));
-    }
-
     void destroyedUiProcEndsItsLoops()
     {
         const int before = threadCount();
@@ -309,6 +260,9 @@ private slots:
         QCOMPARE(fx->nextCommand(), QByteArray("<T00006a010000006b>"));
         QSignalSpy spy(fx->proc.get(), &UiProc::uiChangeUI);
         QVERIFY(reportFlows(spy));
+        // With none left there is no worker to hand out.
+        fx->proc.reset();
+        QCOMPARE(UiProc::processWorker(), static_cast<biz_CMDSWork *>(nullptr));
     }
 };
 
