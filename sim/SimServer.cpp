@@ -33,6 +33,7 @@ Server::Server(Device *device, QObject *parent)
     , m_device(device)
     , m_socket(new QUdpSocket(this))
 {
+    m_clock.start();
     connect(m_socket, &QUdpSocket::readyRead, this, &Server::readPending);
 }
 
@@ -106,11 +107,15 @@ void Server::handleDatagram(const QByteArray &datagram, const QHostAddress &from
     QString why;
     if (!parseCommand(datagram, &cmd, &why)) {
         ++m_rejected;
-        qCWarning(lcSim).noquote() << QStringLiteral("dropped datagram from %1:%2 (%3 bytes): %4")
-                                          .arg(from.toString())
-                                          .arg(fromPort)
-                                          .arg(datagram.size())
-                                          .arg(why);
+        // A flood of garbage is told once a second, with a count.
+        int held = 0;
+        if (m_rejectLog.admit(m_clock.elapsed(), &held))
+            qCWarning(lcSim).noquote() << QStringLiteral("dropped datagram from %1:%2 (%3 bytes): %4%5")
+                                              .arg(from.toString())
+                                              .arg(fromPort)
+                                              .arg(datagram.size())
+                                              .arg(why)
+                                              .arg(held > 0 ? QStringLiteral("; %1 more dropped since the last such line").arg(held) : QString());
         return;
     }
     m_lastSender = from;

@@ -2,9 +2,11 @@
 // The simulator's UDP side: reads "<T" command frames on 127.0.0.1, lets the
 // device answer them to the sender, and sends unsolicited reports to the
 // front end's listening port, on request or from a timed script.
+#include "LinkLog.h"
 #include "SimDevice.h"
 #include "SimScript.h"
 
+#include <QElapsedTimer>
 #include <QHostAddress>
 #include <QObject>
 
@@ -55,6 +57,8 @@ private:
     bool m_verbose = false;
     int m_handled = 0;
     int m_rejected = 0;
+    LinkLog::RateLimit m_rejectLog;
+    QElapsedTimer m_clock;
 };
 
 } // namespace Sim
