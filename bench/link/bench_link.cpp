@@ -207,15 +207,16 @@ int main(int argc, char **argv)
     // another process). Two runs of 5 s each:
     //  - paced: the service sends at a fixed 190 /s; every report must be
     //    handed over, in order, and the backlog must stay small;
-    //  - ceiling: the service keeps `window` reports unanswered (few enough
-    //    for the socket buffer), which shows the most the link can take.
+    //  - ceiling: the service keeps `window` reports unanswered (fewer than
+    //    the intake holds before it sheds a flood), which shows the most the
+    //    link can take.
     struct Run
     {
         const char *name;
         int ratePerSecond; // 0: window-driven
         int window;
     };
-    for (const Run &run : {Run{"paced at 190 /s", 190, 0}, Run{"ceiling, 128 outstanding", 0, 128}}) {
+    for (const Run &run : {Run{"paced at 190 /s", 190, 0}, Run{"ceiling, 48 outstanding", 0, 48}}) {
         lastSeen = -1;
         received = 0;
         outOfOrder = 0;
