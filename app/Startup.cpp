@@ -19,6 +19,10 @@
 
 #include <cstdio>
 
+extern "C" {
+#include <libavutil/avutil.h>
+}
+
 #include <pthread.h>
 #include <sched.h>
 #include <sys/syscall.h>
@@ -82,6 +86,30 @@ long peakRssKb()
 void markProcessStart()
 {
     g_sinceStart.start();
+}
+
+QString startPage()
+{
+    return qEnvironmentVariable("CS_START_PAGE").trimmed();
+}
+
+QVariantMap aboutInfo()
+{
+    QVariantMap info;
+    info.insert(QStringLiteral("version"), QStringLiteral(CS_APP_VERSION));
+    info.insert(QStringLiteral("buildDate"), QStringLiteral(__DATE__ " " __TIME__));
+    info.insert(QStringLiteral("qtVersion"), QString::fromLatin1(qVersion()));
+    info.insert(QStringLiteral("ffmpegVersion"), QString::fromLatin1(av_version_info()));
+    info.insert(QStringLiteral("ffmpegLicence"), QString::fromLatin1(avutil_license()));
+    return info;
+}
+
+void selectVirtualKeyboard()
+{
+    if (!qEnvironmentVariableIsSet("QT_IM_MODULE"))
+        qputenv("QT_IM_MODULE", "qtvirtualkeyboard");
+    // The keyboard lives in the main window, never in a window of its own.
+    qputenv("QT_VIRTUALKEYBOARD_DESKTOP_DISABLE", "1");
 }
 
 void scheduleDevelopmentHooks(QObject *root)

@@ -2,6 +2,7 @@
 // Pieces of the start-up sequence that tests drive without a main().
 #include <QStringList>
 #include <QUrl>
+#include <QVariantMap>
 
 class QObject;
 class QQmlEngine;
@@ -29,5 +30,16 @@ void scheduleDevelopmentHooks(QObject *root);
 
 // Starts the clock the first-frame report measures from.
 void markProcessStart();
+
+// The page to open at start (CS_START_PAGE), "" for the main screen.
+QString startPage();
+
+// What the About page shows of this program itself: its version and build
+// date, and the versions and licences of the libraries it is built on.
+QVariantMap aboutInfo();
+
+// Text entry goes through Qt Virtual Keyboard, drawn inside the window:
+// selects its input method unless the environment already chose one.
+void selectVirtualKeyboard();
 
 } // namespace Startup

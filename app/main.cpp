@@ -17,6 +17,7 @@ int main(int argc, char *argv[])
 {
     Startup::markProcessStart();
     Startup::pinCurrentThread(2);
+    Startup::selectVirtualKeyboard();
     QApplication app(argc, argv);
 
     Startup::registerQmlTypes();
@@ -33,6 +34,8 @@ int main(int argc, char *argv[])
 
     engine.rootContext()->setContextProperty(QStringLiteral("isWatchStart"),
                                              Startup::isWatchStart(app.arguments()));
+    engine.rootContext()->setContextProperty(QStringLiteral("csStartPage"), Startup::startPage());
+    engine.rootContext()->setContextProperty(QStringLiteral("csAbout"), Startup::aboutInfo());
 
     QQmlComponent component(&engine, Startup::mainDocument());
     QObject *root = component.create();

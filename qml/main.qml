@@ -16,12 +16,41 @@ Window {
 
     UiprocManage { id: manage }
     LiveStore { id: live; manage: manage }
+    SystemStore { id: system; manage: manage; live: live; about: typeof csAbout !== "undefined" ? csAbout : ({}) }
 
     MainView {
         id: mainView
         objectName: "mainView"
         anchors.fill: parent
         store: live
+        pageStores: ({ live: live, system: system })
+        keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
+    }
+
+    // Qt Virtual Keyboard, made the first time a text field asks for it.
+    Loader {
+        id: keyboard
+        objectName: "keyboardLoader"
+        active: false
+        anchors { right: parent.right; bottom: parent.bottom }
+        // Wide enough for keys of about 9 mm; in landscape it leaves the picture's left part clear.
+        width: mainView.portrait ? parent.width : Math.min(parent.width, 1280)
+        z: 50
+        source: "CONTROLS/Keyboard.qml"
+        Binding { target: keyboard.item; property: "german"; value: system.language === 2; when: keyboard.item !== null }
+        Connections {
+            target: Qt.inputMethod
+            function onVisibleChanged() { if (Qt.inputMethod.visible) keyboard.active = true }
+        }
+    }
+
+    function openStartPage(name) {
+        if (name === "" || name === "main")
+            return
+        if (!mainView.pages.show(name)) {
+            console.warn("CS_START_PAGE: no page named \"" + name + "\"; showing the main screen")
+            manage.uiproc.writeLog("CS_START_PAGE: no page named " + name + ", main screen shown")
+        }
     }
 
     Component.onCompleted: {
@@ -35,6 +64,7 @@ Window {
             window.height = 1920
         }
         live.loadSettings(settings)
+        system.loadSettings(settings)
         manage.uiproc.writeLog("qml start share image")
         manage.uiprocGetImageShareData.getShareImageData()
         manage.uiproc.writeLog("qml start share audio")
@@ -44,5 +74,6 @@ Window {
         manage.uiproc.connectGetInputSignalFormat()
         manage.uiproc.initFinished()
         live.start()
+        openStartPage(typeof csStartPage !== "undefined" ? csStartPage : "")
     }
 }

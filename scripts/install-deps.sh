@@ -7,6 +7,7 @@ qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev q
 qttools5-dev qttools5-dev-tools
 qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
 qml-module-qttest qml-module-qtmultimedia
+qml-module-qtquick-virtualkeyboard qtvirtualkeyboard-plugin qml-module-qt-labs-folderlistmodel
 libavformat-dev libavcodec-dev libavutil-dev
 libgl1-mesa-dri fonts-dejavu-core fonts-wqy-microhei
 xvfb xauth ffmpeg procps strace ccache"

@@ -39,23 +39,29 @@ Rectangle {
         linkAlive: view.store.linkAlive
     }
 
+    // The stores pages are given, by the name the page registry uses.
+    property var pageStores: ({ live: store })
+    property alias pages: pageHost
+    // Top edge of the on-screen keyboard in this item (its height when none).
+    property real keyboardTop: height
+
     Item {
         id: body
         anchors { left: parent.left; right: parent.right; top: statusBar.bottom; bottom: parent.bottom; margins: Style.gap }
 
-        // Landscape: preview and meters on the left two thirds, actions on the right, inputs below.
-        // Portrait: everything stacked.
-        readonly property real actionsWidth: view.portrait ? width : 380
-        readonly property real metersWidth: view.portrait ? width : 9 * 52
-        readonly property real inputsHeight: view.portrait ? Style.touch * 2.2 : height - previewPanel.height - Style.gap
+        // Landscape: picture and inputs on the left two thirds, the meters
+        // beside the picture, the live actions and the menu on the right;
+        // pages open over the meters and actions, never over the picture.
+        // Portrait: everything stacked; pages open below the picture.
+        readonly property real actionsWidth: 380
+        readonly property real metersWidth: 270
+        readonly property real previewWidth: view.portrait ? width : width - actionsWidth - metersWidth - 2 * Style.gap
 
         PreviewPanel {
             id: previewPanel
             objectName: "previewPanel"
             x: 0; y: 0
-            width: view.portrait ? body.width
-                                 : Math.min(body.width - body.actionsWidth - body.metersWidth - 2 * Style.gap,
-                                            (body.height - Style.touch * 2.2 - Style.gap) * 16 / 9)
+            width: body.previewWidth
             height: width * 9 / 16
             onAir: view.store.onAir
             pipOn: view.store.pipOn
@@ -71,7 +77,8 @@ Rectangle {
             x: view.portrait ? 0 : previewPanel.width + Style.gap
             y: view.portrait ? previewPanel.height + Style.gap : 0
             width: view.portrait ? body.width : body.metersWidth
-            height: view.portrait ? 220 : previewPanel.height
+            height: view.portrait ? 200 : body.height
+            columns: view.portrait ? 3 : 1
             levels: view.store.levels
             names: view.store.levelNames
         }
@@ -80,9 +87,9 @@ Rectangle {
             id: inputs
             objectName: "inputRow"
             x: 0
-            y: view.portrait ? meters.y + meters.height + Style.gap : body.height - height
-            width: view.portrait ? body.width : previewPanel.width + Style.gap + meters.width
-            height: body.inputsHeight
+            y: view.portrait ? meters.y + meters.height + Style.gap : previewPanel.height + Style.gap
+            width: previewPanel.width
+            height: view.portrait ? Style.touch * 2.4 : body.height - y
             names: view.store.inputNames
             present: view.store.inputPresent
             formats: view.store.inputFormat
@@ -99,15 +106,49 @@ Rectangle {
             x: view.portrait ? 0 : body.width - width
             y: view.portrait ? inputs.y + inputs.height + Style.gap : 0
             width: view.portrait ? body.width : body.actionsWidth
+            compact: view.portrait
             recording: view.store.recording
             recordTime: view.recordTime
             streaming: view.store.streaming
             liveChannels: view.store.streams.filter(function (s) { return s !== 0 }).length
             pipOn: view.store.pipOn
             onRecordRequested: view.store.startRecording()
-            onStopRecordRequested: confirm.ask(qsTr("Stop the recording now?"), qsTr("Stop recording"), function () { view.store.stopRecording() })
+            onStopRecordRequested: view.confirmStopRecording()
             onPipToggled: view.store.setPip(on)
         }
+
+        // The way into every page: one touch here, one on the page's tile.
+        TouchButton {
+            id: menuButton
+            objectName: "menuButton"
+            x: actions.x
+            y: actions.y + actions.height + Style.gap
+            width: actions.width
+            height: view.portrait ? Style.touch : Style.touch * 1.3
+            label: qsTr("Menu")
+            detail: qsTr("Settings and pages")
+            onClicked: pageHost.show("menu")
+        }
+
+        PageHost {
+            id: pageHost
+            objectName: "pageHost"
+            x: view.portrait ? 0 : meters.x
+            y: view.portrait ? meters.y : 0
+            width: body.width - x
+            height: body.height - y
+            stores: view.pageStores
+            live: view.store
+            recordTime: view.recordTime
+            keyboardTop: view.keyboardTop - body.y - y
+            onRecordRequested: view.store.startRecording()
+            onStopRecordRequested: view.confirmStopRecording()
+            onPipToggled: view.store.setPip(on)
+        }
+    }
+
+    function confirmStopRecording() {
+        confirm.ask(qsTr("Stop the recording now?"), qsTr("Stop recording"), function () { view.store.stopRecording() })
     }
 
     ConfirmDialog {

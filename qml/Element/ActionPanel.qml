@@ -2,24 +2,29 @@ import QtQuick 2.15
 import "../Public"
 import "../CONTROLS"
 
-// The live actions, each showing its state.
-Column {
+// The live actions, each showing its state: a column beside the picture,
+// or a row (compact) under a page.
+Grid {
     id: panel
     property bool recording: false
     property string recordTime: ""
     property bool streaming: false
     property int liveChannels: 0
     property bool pipOn: false
+    property bool compact: false
     signal recordRequested()
     signal stopRecordRequested()
     signal pipToggled(bool on)
 
+    columns: compact ? 3 : 1
     spacing: Style.gap
+    readonly property real cellWidth: compact ? (width - 2 * spacing) / 3 : width
+    readonly property real cellHeight: compact ? Style.touch : Style.touch * 1.3
 
     TouchButton {
         objectName: "streamState"
-        width: panel.width
-        height: Style.touch * 1.3
+        width: panel.cellWidth
+        height: panel.cellHeight
         label: panel.streaming ? qsTr("ON AIR") : qsTr("Stream off")
         detail: panel.streaming ? qsTr("%n channel(s) live", "", panel.liveChannels) : qsTr("No channel live")
         tally: panel.streaming ? Style.onAir : "transparent"
@@ -27,8 +32,8 @@ Column {
     }
     TouchButton {
         objectName: "recordButton"
-        width: panel.width
-        height: Style.touch * 1.3
+        width: panel.cellWidth
+        height: panel.cellHeight
         label: panel.recording ? qsTr("Stop recording") : qsTr("Record")
         detail: panel.recording ? panel.recordTime : qsTr("Not recording")
         tally: panel.recording ? Style.onAir : "transparent"
@@ -36,9 +41,9 @@ Column {
     }
     TouchButton {
         objectName: "pipButton"
-        width: panel.width
-        height: Style.touch * 1.3
-        label: qsTr("Picture in picture")
+        width: panel.cellWidth
+        height: panel.cellHeight
+        label: panel.compact ? qsTr("PIP") : qsTr("Picture in picture")
         detail: panel.pipOn ? qsTr("On") : qsTr("Off")
         checked: panel.pipOn
         tally: panel.pipOn ? Style.onPip : "transparent"

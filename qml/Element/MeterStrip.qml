@@ -2,23 +2,29 @@ import QtQuick 2.15
 import "../Public"
 import "../CONTROLS"
 
-// Nine audio meters side by side, labelled with their sources.
+// The nine audio meters, each labelled with its source: one column beside
+// the picture, or three columns on a narrow (portrait) panel.
 Rectangle {
     id: strip
     property var levels: []
     property var names: []
+    property int columns: 1
     color: Style.surface
     radius: Style.radius
 
-    Row {
+    Grid {
+        id: grid
         anchors.fill: parent
         anchors.margins: Style.gap / 2
+        columns: strip.columns
+        columnSpacing: Style.gap
+        readonly property int rows: Math.ceil(strip.names.length / columns)
         Repeater {
             model: strip.names.length
             LevelMeter {
                 objectName: "meter" + index
-                width: (strip.width - Style.gap) / strip.names.length
-                height: parent.height
+                width: (grid.width - (grid.columns - 1) * grid.columnSpacing) / grid.columns
+                height: grid.height / grid.rows
                 level: strip.levels[index] !== undefined ? strip.levels[index] : 0
                 label: strip.names[index]
             }

@@ -2,7 +2,9 @@ import QtQuick 2.15
 import "../Public"
 import "../CONTROLS"
 
-// The thin status line: streaming per channel, recording, USB disk, address, clock and the link mark.
+// The thin status line: streaming per channel, recording, USB disk,
+// address and clock. The link mark appears only when the media service has
+// gone silent. On a narrow (portrait) panel the marks wrap onto a second line.
 Rectangle {
     id: bar
     property var streams: [0, 0, 0, 0]
@@ -13,13 +15,12 @@ Rectangle {
     property bool linkAlive: false
     property string clock: ""
 
-    // A narrow (portrait) panel puts the link mark and the clock on a second line.
-    readonly property bool compact: width < 1500
-    height: compact ? 2 * Style.statusHeight : Style.statusHeight
+    height: Math.max(Style.statusHeight, marks.height)
     color: Style.surface
 
-    Row {
-        anchors { left: parent.left; leftMargin: Style.gap; top: parent.top }
+    Flow {
+        id: marks
+        anchors { left: parent.left; leftMargin: Style.gap; right: clockText.left; rightMargin: Style.gap; top: parent.top }
         spacing: Style.gap * 2
 
         Repeater {
@@ -45,21 +46,20 @@ Rectangle {
             text: bar.ipAddress.length > 0 ? bar.ipAddress : qsTr("No address")
             mark: bar.ipAddress.length > 0 ? Style.onPip : Style.off
         }
-    }
-    Row {
-        anchors { right: parent.right; rightMargin: Style.gap; bottom: parent.bottom }
-        spacing: Style.gap * 2
         StatusChip {
             objectName: "linkChip"
-            text: bar.linkAlive ? qsTr("Media service") : qsTr("Media service silent")
-            mark: bar.linkAlive ? Style.onPip : Style.attention
+            visible: !bar.linkAlive
+            text: qsTr("Media service silent")
+            mark: Style.attention
         }
-        Text {
-            height: Style.statusHeight
-            verticalAlignment: Text.AlignVCenter
-            text: bar.clock
-            color: Style.text
-            font.pixelSize: Style.fontNormal
-        }
+    }
+    Text {
+        id: clockText
+        anchors { right: parent.right; rightMargin: Style.gap; top: parent.top }
+        height: Style.statusHeight
+        verticalAlignment: Text.AlignVCenter
+        text: bar.clock
+        color: Style.text
+        font.pixelSize: Style.fontNormal
     }
 }

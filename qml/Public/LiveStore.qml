@@ -26,7 +26,7 @@ QtObject {
     property int usbDisk: -1        // -1 unknown, 0 absent, otherwise present
     property string ipAddress: ""
     property var levels: [0, 0, 0, 0, 0, 0, 0, 0, 0]
-    readonly property var levelNames: [qsTr("MIC"), qsTr("HDMI1"), qsTr("HDMI2"), qsTr("LINE"), qsTr("CAM1"), qsTr("CAM2"), qsTr("NDI"), qsTr("USB"), qsTr("EAR")]
+    readonly property var levelNames: [qsTr("Mic"), qsTr("HDMI 1"), qsTr("HDMI 2"), qsTr("Line"), qsTr("Camera 1"), qsTr("Camera 2"), qsTr("NDI"), qsTr("USB"), qsTr("Phones")]
 
     // The media service is "silent" when nothing came back for a while.
     property double lastReportMs: 0

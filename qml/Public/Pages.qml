@@ -1,0 +1,21 @@
+pragma Singleton
+import QtQuick 2.15
+
+// Every page an operator can open from the menu. `name` is what
+// CS_START_PAGE takes and the page's objectName; `store` names the store
+// the page is given; `source` is created the first time the page opens.
+QtObject {
+    readonly property var all: [
+        { name: "language", title: qsTr("Language"), hint: qsTr("Chinese, English, German"),
+          store: "system", source: Qt.resolvedUrl("../CSQML/LanguagePage.qml") },
+        { name: "about", title: qsTr("About"), hint: qsTr("Versions and licences"),
+          store: "system", source: Qt.resolvedUrl("../CSQML/AboutPage.qml") }
+    ]
+
+    function find(name) {
+        for (var i = 0; i < all.length; ++i)
+            if (all[i].name === name)
+                return all[i]
+        return null
+    }
+}
