@@ -1,0 +1,114 @@
+#!/bin/sh
+# Renders every screen of the front end in every language and orientation,
+# for a look at the whole interface at once.
+#
+# Usage: scripts/screenshots.sh OUTDIR
+#
+# Writes OUTDIR/<page>-<lang>-<orientation>.png, where <page> is "main",
+# "menu" and every page name listed in qml/Public/Pages.qml (new pages are
+# picked up from there), <lang> is cn, en or de and <orientation> is landscape
+# (1920x1080) or portrait (1080x1920).
+#
+# It builds nothing: the executables must already be in build/ (or in
+# $CS_BUILD_DIR). Each picture comes from one run of build/CSFrontEnd in a
+# private sysroot made by scripts/prepare-sysroot.sh (deleted afterwards),
+# against the media service simulator, under Xvfb with Qt Quick's software
+# renderer. Language and rotation are set in the sysroot's CS_Config.ini
+# before each run; the page is opened with CS_START_PAGE and saved with
+# CS_SCREENSHOT. The simulator gets its own UDP port and shared-memory keys,
+# so the run does not disturb a simulator or test running beside it.
+#
+# Environment:
+#   CS_BUILD_DIR        build folder (default build/ of this tree)
+#   CS_SHOT_AFTER_MS    time from start to picture (default 2500)
+#   CS_SIM_ARGS         extra simulator options, e.g. "--script busy.txt" to
+#                       show streams, recording or an unplugged input
+#
+# Exits non-zero with a message naming the picture when one was not written.
+set -eu
+
+top=$(cd "$(dirname "$0")/.." && pwd)
+self="$top/scripts/screenshots.sh"
+build="${CS_BUILD_DIR:-$top/build}"
+after="${CS_SHOT_AFTER_MS:-2500}"
+
+# Inner part, run once per orientation inside xvfb-run:
+#   screenshots.sh --render ORIENTATION OUTDIR PAGE...
+if [ "${1:-}" = "--render" ]; then
+    orientation="$2"; out="$3"; shift 3
+    ini="$CS_SYSROOT/usr/bin/config/CS_Config.ini"
+    case "$orientation" in landscape) rotation=0 ;; *) rotation=1 ;; esac
+    for lang in cn en de; do
+        case "$lang" in cn) code=0 ;; en) code=1 ;; de) code=2 ;; esac
+        for page in "$@"; do
+            # The settings file is rewritten by the application, so both keys
+            # are set again before every run.
+            sed -e '/^language=/d' -e '/^lcdRotation=/d' "$ini" > "$ini.new"
+            printf 'language=%s\nlcdRotation=%s\n' "$code" "$rotation" >> "$ini.new"
+            mv "$ini.new" "$ini"
+            shot="$out/$page-$lang-$orientation.png"
+            rm -f "$shot"
+            log="$CS_SYSROOT/run-$page-$lang-$orientation.log"
+            CS_START_PAGE="$page" CS_SCREENSHOT="$shot" CS_SCREENSHOT_AFTER_MS="$after" \
+                CS_QUIT_AFTER_MS=$((after + 400)) \
+                timeout 30 "$build/CSFrontEnd" > "$log" 2>&1 || true
+            if [ ! -s "$shot" ]; then
+                echo "screenshots: $shot was not written; the application said:" >&2
+                tail -n 20 "$log" >&2
+                exit 1
+            fi
+            echo "$shot"
+        done
+    done
+    exit 0
+fi
+
+out="${1:-}"
+[ -n "$out" ] || { echo "usage: $0 OUTDIR" >&2; exit 2; }
+for exe in "$build/CSFrontEnd" "$build/sim/cs-mediasim"; do
+    [ -x "$exe" ] || { echo "screenshots: $exe is missing; build CSFrontEnd and cs-mediasim first" >&2; exit 2; }
+done
+command -v xvfb-run > /dev/null || { echo "screenshots: xvfb-run is missing (Debian package xvfb)" >&2; exit 2; }
+mkdir -p "$out"
+out=$(cd "$out" && pwd)
+
+# Page names as the registry lists them; only plain names make file names.
+pages=$(sed -n 's/.*{ *name: *"\([A-Za-z0-9_-]*\)".*/\1/p' "$top/qml/Public/Pages.qml")
+[ -n "$pages" ] || { echo "screenshots: no page names found in qml/Public/Pages.qml" >&2; exit 1; }
+
+work=$(mktemp -d "${TMPDIR:-/tmp}/cs-shots.XXXXXX")
+sim=""
+cleanup() {
+    if [ -n "$sim" ]; then
+        kill "$sim" 2> /dev/null || true
+        wait "$sim" 2> /dev/null || true
+    fi
+    rm -rf "$work"
+}
+trap cleanup EXIT
+trap 'exit 130' INT TERM
+
+CS_SYSROOT=$("$top/scripts/prepare-sysroot.sh" "$work/sysroot")
+export CS_SYSROOT
+
+# A private link and private segments: the port and keys follow this
+# process's id, away from the defaults a desktop run uses.
+n=$(( $$ % 20000 ))
+export CS_MEDIA_PORT=$(( 30000 + n ))
+export CS_LISTEN_PORT=0
+export CS_PREVIEW_SHM_KEY=$(( 0x43530000 + n ))
+export CS_PREVIEW_SEM_KEY=$(( 0x43540000 + n ))
+export CS_AUDIO_SHM_KEY=$(( 0x43550000 + n ))
+export QT_QUICK_BACKEND=software
+unset QT_QPA_PLATFORM
+
+# shellcheck disable=SC2086  # options are split on purpose
+"$build/sim/cs-mediasim" --listen-port 0 ${CS_SIM_ARGS:-} --remove-ipc-on-exit > "$work/sim.log" 2>&1 &
+sim=$!
+sleep 0.3
+kill -0 "$sim" 2> /dev/null || { echo "screenshots: the simulator did not start:" >&2; cat "$work/sim.log" >&2; exit 1; }
+
+# shellcheck disable=SC2086  # one argument per page name
+xvfb-run -a -s "-screen 0 1920x1080x24" sh "$self" --render landscape "$out" main menu $pages
+# shellcheck disable=SC2086
+xvfb-run -a -s "-screen 0 1080x1920x24" sh "$self" --render portrait "$out" main menu $pages
