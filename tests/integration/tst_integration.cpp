@@ -52,6 +52,15 @@ private:
         env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
         return env;
     }
+    static bool startSim(QProcess &sim, const QProcessEnvironment &env, int seconds)
+    {
+        sim.setProcessEnvironment(env);
+        sim.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        sim.start(QStringLiteral(CS_BINARY_DIR "/sim/cs-mediasim"),
+                  {QStringLiteral("--size"), QStringLiteral("640x360"), QStringLiteral("--fps"), QStringLiteral("30"),
+                   QStringLiteral("--seconds"), QString::number(seconds)});
+        return sim.waitForStarted(5000);
+    }
 
 private slots:
     void switchSeePreviewAndLevels_data()
@@ -70,17 +79,8 @@ private slots:
         const quint16 listen = freeUdpPort();
         const QProcessEnvironment env = environment(root, media, listen, keys);
 
-        auto startSim = [&](QProcess &sim, int seconds) {
-            sim.setProcessEnvironment(env);
-            sim.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            sim.start(QStringLiteral(CS_BINARY_DIR "/sim/cs-mediasim"),
-                      {QStringLiteral("--size"), QStringLiteral("640x360"), QStringLiteral("--fps"), QStringLiteral("30"),
-                       QStringLiteral("--seconds"), QString::number(seconds)});
-            return sim.waitForStarted(5000);
-        };
-
         QProcess sim;
-        QVERIFY(startSim(sim, 60));
+        QVERIFY(startSim(sim, env, 60));
 
         QProcess app;
         QProcessEnvironment appEnv = env;
@@ -98,7 +98,7 @@ private slots:
             QVERIFY(sim.waitForFinished(5000));
             QVERIFY(app.state() == QProcess::Running); // the application keeps running
             QTest::qWait(500);
-            QVERIFY(startSim(sim2, 60));
+            QVERIFY(startSim(sim2, env, 60));
         }
 
         QVERIFY(app.waitForFinished(60000));
@@ -129,6 +129,52 @@ private slots:
         }
         // The programme input the simulator keeps agrees with the switch.
         QVERIFY2(out.contains(QStringLiteral("PROBE init 2 ")), qPrintable(out.right(3000)));
+    }
+
+    // CS_START_PAGE opens a page of the menu at start; any other text leaves
+    // the main screen and says so on the console and in the run's log.
+    void startPage_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("about") << QStringLiteral("about") << QStringLiteral("about");
+        QTest::newRow("unknown name") << QStringLiteral("scopes") << QString();
+        QTest::newRow("a document path") << QStringLiteral("../CSQML/AboutPage.qml") << QString();
+    }
+    void startPage()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, shown);
+        TestSysroot root(true);
+        const int base = 0x6d000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8;
+        const Keys keys{base, base + 1, base + 2};
+        QProcessEnvironment env = environment(root, freeUdpPort(), freeUdpPort(), keys);
+        QProcess sim;
+        QVERIFY(startSim(sim, env, 60));
+        env.insert(QStringLiteral("CS_MAIN_QML"), QStringLiteral(CS_SOURCE_DIR "/tests/integration/startprobe.qml"));
+        env.insert(QStringLiteral("CS_START_PAGE"), name);
+        QProcess app;
+        app.setProcessEnvironment(env);
+        app.setProcessChannelMode(QProcess::MergedChannels);
+        app.start(QStringLiteral(CS_BINARY_DIR "/CSFrontEnd"), QStringList());
+        QVERIFY(app.waitForFinished(60000));
+        const QString out = QString::fromLocal8Bit(app.readAll());
+        sim.terminate();
+        sim.waitForFinished(5000);
+        removeIpc(keys);
+
+        QVERIFY2(out.contains(QStringLiteral("PROBE page=%1 visible=%2").arg(shown, shown.isEmpty() ? "false" : "true")),
+                 qPrintable(out.right(3000)));
+        QString log;
+        for (const QFileInfo &f : QDir(root.path(QStringLiteral("/CSLog"))).entryInfoList({QStringLiteral("*.CSLOG")}))
+            log += QString::fromUtf8(TestSysroot::readFile(f.filePath()));
+        QVERIFY2(log.contains(QStringLiteral("qml start")), qPrintable(log.right(2000)));
+        const bool refused = shown.isEmpty();
+        QCOMPARE(out.contains(QStringLiteral("CS_START_PAGE: no page named \"%1\"").arg(name)), refused);
+        QCOMPARE(log.contains(QStringLiteral("CS_START_PAGE: no page named %1,").arg(name)), refused);
+        if (!refused) // what the simulator answered, on the page
+            QVERIFY2(out.contains(QStringLiteral("PROBE about software=1.8 system=2.3 serial=CS2026SIM00001 address=192.168.1.88")),
+                     qPrintable(out.right(3000)));
     }
 };
 

@@ -75,10 +75,12 @@ TestCase {
         compare(findChild(view, "streamChip0").mark, Style.onAir)
         compare(findChild(view, "streamChip1").mark, Style.off)
         compare(findChild(view, "ipChip").text, "192.168.0.100")
-        compare(findChild(view, "linkChip").mark, Style.onPip)
+        var link = findChild(view, "linkChip")
+        verify(!link.visible, "no link mark while the media service answers")
         fake.linkAlive = false
-        compare(findChild(view, "linkChip").text, qsTr("Media service silent"))
-        compare(findChild(view, "linkChip").mark, Style.attention)
+        verify(link.visible)
+        compare(link.text, qsTr("Media service silent"))
+        compare(link.mark, Style.attention)
     }
 
     function test_tallyFrameRedWhenOnAir() {
@@ -96,8 +98,14 @@ TestCase {
                 { tag: "middle", index: 2, shown: 0.5 }, { tag: "upper", index: 5, shown: 0.975 },
                 { tag: "above", index: 7, shown: 1 }, { tag: "zero", index: 8, shown: 0 }]
     }
+    // Each meter a labelled horizontal row, one under the other beside the picture.
     function test_metersClampTo40And80(data) {
-        fuzzyCompare(findChild(view, "meter" + data.index).shown, data.shown, 0.0001)
+        var meter = findChild(view, "meter" + data.index)
+        fuzzyCompare(meter.shown, data.shown, 0.0001)
+        compare(meter.label, fake.levelNames[data.index])
+        verify(meter.width > 2 * meter.height)
+        if (data.index > 0)
+            verify(meter.y >= findChild(view, "meter" + (data.index - 1)).y + meter.height)
     }
 }
 }
