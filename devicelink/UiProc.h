@@ -1,17 +1,21 @@
 #pragma once
 // The screens' controller: device commands to the media service, the
-// settings file, the run's log and (later) the board's hardware. The
-// command transport lives in UiProc_transport.cpp, the command set in
+// settings file, the run's log and the board's hardware. The command
+// transport lives in UiProc_transport.cpp, the command set in
 // UiProc_commands.cpp (its vocabulary in LinkCommands.h), settings and log
-// in UiProc_settings.cpp.
+// in UiProc_settings.cpp, board control in UiProc_hardware.cpp.
+#include "WorkerReplies.h"
 #include "model_Protocoldata.h"
 
+#include <QDateTime>
 #include <QHostAddress>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
 #include <QObject>
 #include <QVariantList>
+
+#include <functional>
 
 class LinkTransport;
 class biz_CMDSWork;
@@ -42,11 +46,18 @@ public:
     bool isCollectingBlock() const;
     LinkTransport *transport() const { return m_transport; }
 
+    // The clock the time-zone shift starts from (tests fix it); null restores the system clock.
+    void setClock(std::function<QDateTime()> clock);
+
 signals:
     void uiChangeUI(int ADDR, int SN, int CMD, int DAT1, int DAT2, int DAT3, int DAT4, int CHKSUM,
                     QString deviceType, QString deviceSN, QString Datablock);
     void debugQML(QString tmpStr);
     void signalReInitUdp();
+    // board control (UiProc_hardware.cpp)
+    void setTimeByTimeZoneSuccess();
+    void sigCPUTemperature(int nTemp);
+    void sigNetConnectResult(QString ipStr, int onlineCnt, bool isOnline);
 
 public slots:
     // ---- settings (UiProc_settings.cpp)
@@ -170,6 +181,25 @@ public slots:
     bool connectView(uchar action, uchar uvcID, uchar controlType, uchar viewIndex);
     bool connectHdmiOutStyle(uchar action, uchar type);
 
+    // ---- board control (UiProc_hardware.cpp): sysfs and system commands.
+    // Fans, bridge upgrade start, temperature and the ping check work on a
+    // detached thread and return at once; the others block while their
+    // commands run.
+    bool connectBrightness(int value);
+    bool connectFans(int ratePercent, bool bInit);
+    bool connectFans(int ratePercent);
+    bool connectHdmiUpdate();
+    int connectHdmiCheck();     // 1 done (or no bridge), 2 failed, 0 running
+    bool connectReSubCS();      // restarts the sub-display when a monitor comes or goes
+    bool connectSetDate(int year, int month, int days, int hours, int minutes, int seconds);
+    void connectSetDateByTimeZone(int hourDif, int minutesDif, int curHour, int curMinutes);
+    void getCPUTemperature();
+    void checkNetWorkOnline();
+    void tdCheckNetWorkOnline();
+    bool updateFactory();
+    bool qtVersion();
+    QString getScreenSize();
+
 private:
     void setupTransport();
     void teardownTransport();
@@ -189,4 +219,11 @@ private:
 
     // Host that the reachability check pings (set by connectGetLocalHost).
     QString m_targetHost;
+
+    // board control state
+    void shiftClock(int hours, int minutes);
+    bool m_hdmiOutConnected = false; // as last seen by connectReSubCS
+    int m_pingCount = 0;
+    std::function<QDateTime()> m_clock;
+    WorkerReplies m_workerReplies{this};
 };
