@@ -4,6 +4,7 @@
 #include "UiProc.h"
 #include "UiprocImageShow.h"
 #include "UiprocMain_Desktop.h"
+#include "UiprocNetwork.h"
 #include "UiprocPublic.h"
 #include "UiprocVideo_Desktop.h"
 #include "UiproGetAudioShareData.h"
@@ -49,8 +50,9 @@ void registerQmlTypes()
     qmlRegisterType<UiprocMain_Desktop>("xpose.UiprocMain_Desktop", 1, 0, "UiproMain_Desktop");
     qmlRegisterType<UiprocPublic>("cs.UiprocPublic", 1, 0, "UiprocPublic_Desktop");
     qmlRegisterType<UiproGetAudioShareData>("xpose.UiproGetAudioShareData", 1, 0, "UiproGetAudioShareData_Desktop");
+    qmlRegisterType<UiprocNetwork>("xpose.UiprocNetwork", 1, 0, "UiprocNetwork");
     // Registered as their classes land: UiproRecord_Desktop, UiproVersion_Desktop,
-    // UiproRtmp_Desktop, UiproBluetooth_Desktop, UiprocNetwork.
+    // UiproRtmp_Desktop, UiproBluetooth_Desktop.
 }
 
 bool isWatchStart(const QStringList &arguments)

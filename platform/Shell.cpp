@@ -177,4 +177,18 @@ QByteArray process(const QString &program, const QStringList &args, int timeoutM
     return runner().process(program, args, timeoutMs);
 }
 
+bool startAsync(QProcess &process, const QString &line, QIODevice::OpenMode mode)
+{
+    qCDebug(lcShell).noquote() << "sh (async):" << line;
+    QString why;
+    const QString script = CommandConfinement().shellScript(line, &why);
+    if (!why.isEmpty()) {
+        logRefused(line, why);
+        return false;
+    }
+    process.setProcessEnvironment(Platform::childEnvironment());
+    process.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script}, mode);
+    return true;
+}
+
 } // namespace Shell

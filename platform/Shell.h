@@ -3,8 +3,11 @@
 // a program goes through here, so a sysroot run confines it and a test can
 // swap in a recording runner to assert the exact command texts.
 #include <QByteArray>
+#include <QIODevice>
 #include <QString>
 #include <QStringList>
+
+class QProcess;
 
 class ShellRunner
 {
@@ -36,6 +39,13 @@ constexpr int kProcessTimeoutMs = 30000;
 int system(const QString &line);
 QByteArray output(const QString &line);
 QByteArray process(const QString &program, const QStringList &args, int timeoutMs = kProcessTimeoutMs);
+
+// The asynchronous form: starts the command line in `process` through
+// /bin/sh, confined like system(), and returns at once; the caller has
+// connected the process's signals and reads its output as it comes. It does
+// not go through the runner (a recording runner has no process to give).
+// False, with nothing started, when the line cannot be confined.
+bool startAsync(QProcess &process, const QString &line, QIODevice::OpenMode mode = QIODevice::ReadWrite);
 
 // Replaces the runner for the whole process (tests); nullptr restores the real one.
 // The caller keeps ownership and must outlive every use.

@@ -72,6 +72,8 @@ Window {
         manage.uiproVideo.bizConnect()
         manage.uiproc.writeLog("qml start GetInputSignalFormat")
         manage.uiproc.connectGetInputSignalFormat()
+        manage.uiproNetwork.initNetwork()
+        manage.uiproNetwork.getIpAddress(0)
         manage.uiproc.initFinished()
         live.start()
         openStartPage(typeof csStartPage !== "undefined" ? csStartPage : "")

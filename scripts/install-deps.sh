@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the Debian 12 packages the build, the tests and the desktop run
-# need; does nothing when they are all present.
+# need; does nothing when they are all present. net-tools, iproute2,
+# dnsmasq-base and busybox (udhcpc) serve the network test's private namespace.
 set -e
 PACKAGES="cmake g++ make pkg-config
 qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev qtmultimedia5-dev
@@ -10,7 +11,8 @@ qml-module-qttest qml-module-qtmultimedia
 qml-module-qtquick-virtualkeyboard qtvirtualkeyboard-plugin qml-module-qt-labs-folderlistmodel
 libavformat-dev libavcodec-dev libavutil-dev
 libgl1-mesa-dri fonts-dejavu-core fonts-wqy-microhei
-xvfb xauth ffmpeg procps strace ccache"
+xvfb xauth ffmpeg procps strace ccache
+net-tools iproute2 dnsmasq-base busybox"
 missing=""
 for p in $PACKAGES; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"

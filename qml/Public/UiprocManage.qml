@@ -6,6 +6,7 @@ import xpose.UiproVideoDesktop 1.0
 import xpose.UiprocMain_Desktop 1.0
 import cs.UiprocPublic 1.0
 import xpose.UiproGetAudioShareData 1.0
+import xpose.UiprocNetwork 1.0
 
 // The one place that owns the native objects; views reach them through these properties.
 Item {
@@ -17,6 +18,7 @@ Item {
     property alias uiproVideo: uiproVider_Desktop
     property alias uiproMain: uiproMain_Desktop
     property alias uiproPublic: uiproPublic_Desktop
+    property alias uiproNetwork: uiproNetwork_Desktop
 
     UiproGetImageShareData_Desktop { id: uiprocGetImageShareData_Desktop }
     UiproGetAudioShareData_Desktop { id: uiprocGetAudioShareData_Desktop }
@@ -24,4 +26,5 @@ Item {
     UiproVideo_Desktop { id: uiproVider_Desktop }
     UiproMain_Desktop { id: uiproMain_Desktop }
     UiprocPublic_Desktop { id: uiproPublic_Desktop }
+    UiprocNetwork { id: uiproNetwork_Desktop }
 }
