@@ -42,14 +42,14 @@ Rectangle {
             spacing: Style.gap * 2
             TouchButton {
                 objectName: "confirmAction"
-                width: 300
+                width: 340  // room for "Aufnahme beenden" at full size
                 label: dialog.actionText
                 tally: Style.onAir
                 onClicked: { dialog.visible = false; if (dialog.pending) dialog.pending(); dialog.accepted() }
             }
             TouchButton {
                 objectName: "confirmCancel"
-                width: 360
+                width: 400
                 label: qsTr("Cancel")
                 checked: true
                 onClicked: dialog.visible = false

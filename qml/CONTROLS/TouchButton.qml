@@ -44,6 +44,8 @@ Rectangle {
             text: button.detail
             color: Style.textDim
             font.pixelSize: Style.fontSmall
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Style.fontTiny
             elide: Text.ElideRight
         }
     }

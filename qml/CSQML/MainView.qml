@@ -77,7 +77,7 @@ Rectangle {
             x: view.portrait ? 0 : previewPanel.width + Style.gap
             y: view.portrait ? previewPanel.height + Style.gap : 0
             width: view.portrait ? body.width : body.metersWidth
-            height: view.portrait ? 200 : body.height
+            height: view.portrait ? 270 : body.height
             columns: view.portrait ? 3 : 1
             levels: view.store.levels
             names: view.store.levelNames
@@ -89,7 +89,7 @@ Rectangle {
             x: 0
             y: view.portrait ? meters.y + meters.height + Style.gap : previewPanel.height + Style.gap
             width: previewPanel.width
-            height: view.portrait ? Style.touch * 2.4 : body.height - y
+            height: view.portrait ? Style.touch * 3 : body.height - y
             names: view.store.inputNames
             present: view.store.inputPresent
             formats: view.store.inputFormat
@@ -107,6 +107,8 @@ Rectangle {
             y: view.portrait ? inputs.y + inputs.height + Style.gap : 0
             width: view.portrait ? body.width : body.actionsWidth
             compact: view.portrait
+            // The show's main controls: larger here than in the row under a page.
+            cellHeight: view.portrait ? Style.touch * 1.3 : Style.touch * 1.6
             recording: view.store.recording
             recordTime: view.recordTime
             streaming: view.store.streaming
@@ -124,7 +126,7 @@ Rectangle {
             x: actions.x
             y: actions.y + actions.height + Style.gap
             width: actions.width
-            height: view.portrait ? Style.touch : Style.touch * 1.3
+            height: actions.cellHeight
             label: qsTr("Menu")
             detail: qsTr("Settings and pages")
             onClicked: pageHost.show("menu")

@@ -19,7 +19,7 @@ Grid {
     columns: compact ? 3 : 1
     spacing: Style.gap
     readonly property real cellWidth: compact ? (width - 2 * spacing) / 3 : width
-    readonly property real cellHeight: compact ? Style.touch : Style.touch * 1.3
+    property real cellHeight: compact ? Style.touch : Style.touch * 1.3
 
     TouchButton {
         objectName: "streamState"
@@ -34,8 +34,10 @@ Grid {
         objectName: "recordButton"
         width: panel.cellWidth
         height: panel.cellHeight
-        label: panel.recording ? qsTr("Stop recording") : qsTr("Record")
-        detail: panel.recording ? panel.recordTime : qsTr("Not recording")
+        // A third of a row has no room for "Stop recording" in German; the
+        // state word below says what is being stopped.
+        label: panel.recording ? (panel.compact ? qsTr("Stop") : qsTr("Stop recording")) : qsTr("Record")
+        detail: panel.recording ? (panel.compact ? qsTr("REC %1").arg(panel.recordTime) : panel.recordTime) : qsTr("Not recording")
         tally: panel.recording ? Style.onAir : "transparent"
         onClicked: panel.recording ? panel.stopRecordRequested() : panel.recordRequested()
     }

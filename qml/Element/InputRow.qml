@@ -39,7 +39,7 @@ Row {
                 id: pipStrip
                 objectName: "pipSource" + index
                 width: parent.width
-                height: Style.touch * 0.8
+                height: Style.touch
                 label: qsTr("to PIP")
                 enabledState: row.pipOn && index !== row.programmeInput
                 checked: row.pipOn && index === row.pipInput

@@ -27,6 +27,8 @@ Rectangle {
                 height: grid.height / grid.rows
                 level: strip.levels[index] !== undefined ? strip.levels[index] : 0
                 label: strip.names[index]
+                // Room for the longest (German) source names at full size.
+                labelWidth: Math.round(Math.min(150, width * 0.46))
             }
         }
     }
