@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>Device software</source>
+        <translation>设备软件</translation>
+    </message>
+    <message>
+        <source>asking the device…</source>
+        <translation>正在查询设备…</translation>
+    </message>
+    <message>
+        <source>Device system</source>
+        <translation>设备系统</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>no device ID</source>
+        <translation>无设备 ID</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>no address</source>
+        <translation>无地址</translation>
+    </message>
+    <message>
+        <source>This program</source>
+        <translation>本程序</translation>
+    </message>
+    <message>
+        <source>%1, built %2</source>
+        <translation>%1，构建于 %2</translation>
+    </message>
+    <message>
+        <source>Open-source components</source>
+        <translation>开源组件</translation>
+    </message>
+    <message>
+        <source>GNU LGPL version 3; Qt Virtual Keyboard: GNU GPL version 3</source>
+        <translation>GNU LGPL 第 3 版；Qt Virtual Keyboard：GNU GPL 第 3 版</translation>
+    </message>
+</context>
+<context>
     <name>ActionPanel</name>
     <message>
         <source>ON AIR</source>
@@ -45,6 +92,18 @@
         <source>Off</source>
         <translation>关</translation>
     </message>
+    <message>
+        <source>PIP</source>
+        <translation>画中画</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>REC %1</source>
+        <translation>录制 %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -77,6 +136,17 @@
     </message>
 </context>
 <context>
+    <name>LanguagePage</name>
+    <message>
+        <source>Every text changes at once. On-screen typing uses Latin letters in every language.</source>
+        <translation>所有文字立即切换。屏幕键盘在各种语言下都输入拉丁字母。</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>当前语言</translation>
+    </message>
+</context>
+<context>
     <name>LiveStore</name>
     <message>
         <source>HDMI 1</source>
@@ -88,19 +158,11 @@
     </message>
     <message>
         <source>USB camera 1</source>
-        <translation>USB摄像头1</translation>
+        <translation>USB 摄像头 1</translation>
     </message>
     <message>
         <source>USB camera 2</source>
-        <translation>USB摄像头2</translation>
-    </message>
-    <message>
-        <source>MIC</source>
-        <translation>麦克风</translation>
-    </message>
-    <message>
-        <source>LINE</source>
-        <translation>线路</translation>
+        <translation>USB 摄像头 2</translation>
     </message>
     <message>
         <source>NDI</source>
@@ -111,24 +173,24 @@
         <translation>USB</translation>
     </message>
     <message>
-        <source>EAR</source>
+        <source>Mic</source>
+        <translation>麦克风</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线路</translation>
+    </message>
+    <message>
+        <source>Camera 1</source>
+        <translation>摄像头 1</translation>
+    </message>
+    <message>
+        <source>Camera 2</source>
+        <translation>摄像头 2</translation>
+    </message>
+    <message>
+        <source>Phones</source>
         <translation>耳机</translation>
-    </message>
-    <message>
-        <source>HDMI1</source>
-        <translation>HDMI1</translation>
-    </message>
-    <message>
-        <source>HDMI2</source>
-        <translation>HDMI2</translation>
-    </message>
-    <message>
-        <source>CAM1</source>
-        <translation>摄像1</translation>
-    </message>
-    <message>
-        <source>CAM2</source>
-        <translation>摄像2</translation>
     </message>
 </context>
 <context>
@@ -140,6 +202,48 @@
     <message>
         <source>Stop recording</source>
         <translation>停止录制</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Settings and pages</source>
+        <translation>设置与功能</translation>
+    </message>
+</context>
+<context>
+    <name>PageHost</name>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Chinese, English, German</source>
+        <translation>中文、英文、德文</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Versions and licences</source>
+        <translation>版本与许可证</translation>
     </message>
 </context>
 <context>
@@ -194,10 +298,6 @@
     <message>
         <source>No address</source>
         <translation>无地址</translation>
-    </message>
-    <message>
-        <source>Media service</source>
-        <translation>媒体服务</translation>
     </message>
     <message>
         <source>Media service silent</source>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AboutPage</name>
+    <message>
+        <source>Device software</source>
+        <translation>Gerätesoftware</translation>
+    </message>
+    <message>
+        <source>asking the device…</source>
+        <translation>wird abgefragt…</translation>
+    </message>
+    <message>
+        <source>Device system</source>
+        <translation>Gerätesystem</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>no device ID</source>
+        <translation>keine Geräte-ID</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>no address</source>
+        <translation>keine Adresse</translation>
+    </message>
+    <message>
+        <source>This program</source>
+        <translation>Dieses Programm</translation>
+    </message>
+    <message>
+        <source>%1, built %2</source>
+        <translation>%1, erstellt %2</translation>
+    </message>
+    <message>
+        <source>Open-source components</source>
+        <translation>Open-Source-Komponenten</translation>
+    </message>
+    <message>
+        <source>GNU LGPL version 3; Qt Virtual Keyboard: GNU GPL version 3</source>
+        <translation>GNU LGPL Version 3; Qt Virtual Keyboard: GNU GPL Version 3</translation>
+    </message>
+</context>
+<context>
     <name>ActionPanel</name>
     <message>
         <source>ON AIR</source>
@@ -46,6 +93,18 @@
         <source>Off</source>
         <translation>Aus</translation>
     </message>
+    <message>
+        <source>PIP</source>
+        <translation>BiB</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>REC %1</source>
+        <translation>AUFN. %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -78,6 +137,17 @@
     </message>
 </context>
 <context>
+    <name>LanguagePage</name>
+    <message>
+        <source>Every text changes at once. On-screen typing uses Latin letters in every language.</source>
+        <translation>Alle Texte wechseln sofort. Die Bildschirmtastatur schreibt in jeder Sprache lateinische Buchstaben.</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>Aktiv</translation>
+    </message>
+</context>
+<context>
     <name>LiveStore</name>
     <message>
         <source>HDMI 1</source>
@@ -96,14 +166,6 @@
         <translation>USB-Kamera 2</translation>
     </message>
     <message>
-        <source>MIC</source>
-        <translation>MIK</translation>
-    </message>
-    <message>
-        <source>LINE</source>
-        <translation>LINE</translation>
-    </message>
-    <message>
         <source>NDI</source>
         <translation>NDI</translation>
     </message>
@@ -112,24 +174,24 @@
         <translation>USB</translation>
     </message>
     <message>
-        <source>EAR</source>
-        <translation>KOPFH.</translation>
+        <source>Mic</source>
+        <translation>Mikrofon</translation>
     </message>
     <message>
-        <source>HDMI1</source>
-        <translation>HDMI1</translation>
+        <source>Line</source>
+        <translation>Line</translation>
     </message>
     <message>
-        <source>HDMI2</source>
-        <translation>HDMI2</translation>
+        <source>Camera 1</source>
+        <translation>Kamera 1</translation>
     </message>
     <message>
-        <source>CAM1</source>
-        <translation>KAM1</translation>
+        <source>Camera 2</source>
+        <translation>Kamera 2</translation>
     </message>
     <message>
-        <source>CAM2</source>
-        <translation>KAM2</translation>
+        <source>Phones</source>
+        <translation>Kopfhörer</translation>
     </message>
 </context>
 <context>
@@ -141,6 +203,48 @@
     <message>
         <source>Stop recording</source>
         <translation>Aufnahme beenden</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Settings and pages</source>
+        <translation>Einstellungen und Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PageHost</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Chinese, English, German</source>
+        <translation>Chinesisch, Englisch, Deutsch</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Versions and licences</source>
+        <translation>Versionen und Lizenzen</translation>
     </message>
 </context>
 <context>
@@ -195,10 +299,6 @@
     <message>
         <source>No address</source>
         <translation>Keine Adresse</translation>
-    </message>
-    <message>
-        <source>Media service</source>
-        <translation>Mediendienst</translation>
     </message>
     <message>
         <source>Media service silent</source>
