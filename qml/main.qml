@@ -38,9 +38,14 @@ Window {
         z: 50
         source: "CONTROLS/Keyboard.qml"
         Binding { target: keyboard.item; property: "german"; value: system.language === 2; when: keyboard.item !== null }
+        // The input method reports itself visible only once this panel
+        // exists, so the panel is made when a text field first takes focus.
         Connections {
-            target: Qt.inputMethod
-            function onVisibleChanged() { if (Qt.inputMethod.visible) keyboard.active = true }
+            target: window
+            function onActiveFocusItemChanged() {
+                if (window.activeFocusItem && window.activeFocusItem.inputMethodHints !== undefined)
+                    keyboard.active = true
+            }
         }
     }
 
