@@ -20,7 +20,7 @@
 #
 # Environment:
 #   CS_BUILD_DIR        build folder (default build/ of this tree)
-#   CS_SHOT_AFTER_MS    time from start to picture (default 2500)
+#   CS_SHOT_AFTER_MS    time from start to picture (default 2000)
 #   CS_SIM_ARGS         extra simulator options, e.g. "--script busy.txt" to
 #                       show streams, recording or an unplugged input
 #
@@ -30,7 +30,7 @@ set -eu
 top=$(cd "$(dirname "$0")/.." && pwd)
 self="$top/scripts/screenshots.sh"
 build="${CS_BUILD_DIR:-$top/build}"
-after="${CS_SHOT_AFTER_MS:-2500}"
+after="${CS_SHOT_AFTER_MS:-2000}"
 
 # Inner part, run once per orientation inside xvfb-run:
 #   screenshots.sh --render ORIENTATION OUTDIR PAGE...
