@@ -17,13 +17,14 @@ Window {
     UiprocManage { id: manage }
     LiveStore { id: live; manage: manage }
     SystemStore { id: system; manage: manage; live: live; about: typeof csAbout !== "undefined" ? csAbout : ({}) }
+    BoardStore { id: board; manage: manage }
 
     MainView {
         id: mainView
         objectName: "mainView"
         anchors.fill: parent
         store: live
-        pageStores: ({ live: live, system: system })
+        pageStores: ({ live: live, system: system, board: board })
         keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
     }
 
