@@ -9,7 +9,17 @@ QtObject {
         { name: "language", title: qsTr("Language"), hint: qsTr("Chinese, English, German"),
           store: "system", source: Qt.resolvedUrl("../CSQML/LanguagePage.qml") },
         { name: "about", title: qsTr("About"), hint: qsTr("Versions and licences"),
-          store: "system", source: Qt.resolvedUrl("../CSQML/AboutPage.qml") }
+          store: "system", source: Qt.resolvedUrl("../CSQML/AboutPage.qml") },
+        { name: "network", title: qsTr("Network"), hint: qsTr("Address, DHCP, connection check"),
+          store: "board", source: Qt.resolvedUrl("../CSQML/NetworkPage.qml") },
+        { name: "display", title: qsTr("Display"), hint: qsTr("Brightness, orientation"),
+          store: "board", source: Qt.resolvedUrl("../CSQML/DisplayPage.qml") },
+        { name: "fan", title: qsTr("Cooling"), hint: qsTr("CPU temperature, fan speed"),
+          store: "board", source: Qt.resolvedUrl("../CSQML/FanPage.qml") },
+        { name: "datetime", title: qsTr("Date and time"), hint: qsTr("Clock, time zone"),
+          store: "board", source: Qt.resolvedUrl("../CSQML/DateTimePage.qml") },
+        { name: "system", title: qsTr("System"), hint: qsTr("Factory reset, switch off"),
+          store: "board", source: Qt.resolvedUrl("../CSQML/SystemPage.qml") }
     ]
 
     function find(name) {

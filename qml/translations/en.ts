@@ -107,10 +107,262 @@
     </message>
 </context>
 <context>
+    <name>BoardStore</name>
+    <message>
+        <source>London</source>
+        <translation>London</translation>
+    </message>
+    <message>
+        <source>Berlin</source>
+        <translation>Berlin</translation>
+    </message>
+    <message>
+        <source>Cairo</source>
+        <translation>Cairo</translation>
+    </message>
+    <message>
+        <source>Moscow</source>
+        <translation>Moscow</translation>
+    </message>
+    <message>
+        <source>Tehran</source>
+        <translation>Tehran</translation>
+    </message>
+    <message>
+        <source>Dubai</source>
+        <translation>Dubai</translation>
+    </message>
+    <message>
+        <source>Kabul</source>
+        <translation>Kabul</translation>
+    </message>
+    <message>
+        <source>Karachi</source>
+        <translation>Karachi</translation>
+    </message>
+    <message>
+        <source>New Delhi</source>
+        <translation>New Delhi</translation>
+    </message>
+    <message>
+        <source>Kathmandu</source>
+        <translation>Kathmandu</translation>
+    </message>
+    <message>
+        <source>Dhaka</source>
+        <translation>Dhaka</translation>
+    </message>
+    <message>
+        <source>Yangon</source>
+        <translation>Yangon</translation>
+    </message>
+    <message>
+        <source>Bangkok</source>
+        <translation>Bangkok</translation>
+    </message>
+    <message>
+        <source>Beijing</source>
+        <translation>Beijing</translation>
+    </message>
+    <message>
+        <source>Tokyo</source>
+        <translation>Tokyo</translation>
+    </message>
+    <message>
+        <source>Adelaide</source>
+        <translation>Adelaide</translation>
+    </message>
+    <message>
+        <source>Sydney</source>
+        <translation>Sydney</translation>
+    </message>
+    <message>
+        <source>Nouméa</source>
+        <translation>Nouméa</translation>
+    </message>
+    <message>
+        <source>Auckland</source>
+        <translation>Auckland</translation>
+    </message>
+    <message>
+        <source>Nuku&apos;alofa</source>
+        <translation>Nuku&apos;alofa</translation>
+    </message>
+    <message>
+        <source>Kiritimati</source>
+        <translation>Kiritimati</translation>
+    </message>
+    <message>
+        <source>Azores</source>
+        <translation>Azores</translation>
+    </message>
+    <message>
+        <source>South Georgia</source>
+        <translation>South Georgia</translation>
+    </message>
+    <message>
+        <source>São Paulo</source>
+        <translation>São Paulo</translation>
+    </message>
+    <message>
+        <source>St. John&apos;s</source>
+        <translation>St. John&apos;s</translation>
+    </message>
+    <message>
+        <source>Halifax</source>
+        <translation>Halifax</translation>
+    </message>
+    <message>
+        <source>New York</source>
+        <translation>New York</translation>
+    </message>
+    <message>
+        <source>Chicago</source>
+        <translation>Chicago</translation>
+    </message>
+    <message>
+        <source>Denver</source>
+        <translation>Denver</translation>
+    </message>
+    <message>
+        <source>Los Angeles</source>
+        <translation>Los Angeles</translation>
+    </message>
+    <message>
+        <source>Anchorage</source>
+        <translation>Anchorage</translation>
+    </message>
+    <message>
+        <source>Honolulu</source>
+        <translation>Honolulu</translation>
+    </message>
+    <message>
+        <source>Pago Pago</source>
+        <translation>Pago Pago</translation>
+    </message>
+    <message>
+        <source>Baker Island</source>
+        <translation>Baker Island</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DateTimePage</name>
+    <message>
+        <source>Device clock</source>
+        <translation>Device clock</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Hour</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Second</translation>
+    </message>
+    <message>
+        <source>Set date and time</source>
+        <translation>Set date and time</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Time zone</translation>
+    </message>
+    <message>
+        <source>Use this time zone</source>
+        <translation>Use this time zone</translation>
+    </message>
+    <message>
+        <source>The clock moves by the difference</source>
+        <translation>The clock moves by the difference</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPage</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Brightness</translation>
+    </message>
+    <message>
+        <source>Screen orientation</source>
+        <translation>Screen orientation</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Landscape</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>In use now</source>
+        <translation>In use now</translation>
+    </message>
+    <message>
+        <source>Saved. The new orientation is used at the next start.</source>
+        <translation>Saved. The new orientation is used at the next start.</translation>
+    </message>
+    <message>
+        <source>A change of orientation is used at the next start.</source>
+        <translation>A change of orientation is used at the next start.</translation>
+    </message>
+</context>
+<context>
+    <name>FanPage</name>
+    <message>
+        <source>CPU temperature</source>
+        <translation>CPU temperature</translation>
+    </message>
+    <message>
+        <source>reading…</source>
+        <translation>reading…</translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation>%1 °C</translation>
+    </message>
+    <message>
+        <source>Fan speed</source>
+        <translation>Fan speed</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatic</translation>
+    </message>
+    <message>
+        <source>Fixed speed</source>
+        <translation>Fixed speed</translation>
+    </message>
+    <message>
+        <source>Automatic: %1 % up to %2 °C, rising evenly to 100 % at %3 °C and above.</source>
+        <translation>Automatic: %1 % up to %2 °C, rising evenly to 100 % at %3 °C and above.</translation>
     </message>
 </context>
 <context>
@@ -214,6 +466,101 @@
     </message>
 </context>
 <context>
+    <name>NetworkPage</name>
+    <message>
+        <source>The address must be four numbers from 0 to 255 with dots between, e.g. 192.168.0.100.</source>
+        <translation>The address must be four numbers from 0 to 255 with dots between, e.g. 192.168.0.100.</translation>
+    </message>
+    <message>
+        <source>This address cannot belong to a device (network, broadcast, loopback or multicast address).</source>
+        <translation>This address cannot belong to a device (network, broadcast, loopback or multicast address).</translation>
+    </message>
+    <message>
+        <source>The netmask must look like 255.255.255.0.</source>
+        <translation>The netmask must look like 255.255.255.0.</translation>
+    </message>
+    <message>
+        <source>The gateway must be four numbers with dots between; 0.0.0.0 means none.</source>
+        <translation>The gateway must be four numbers with dots between; 0.0.0.0 means none.</translation>
+    </message>
+    <message>
+        <source>The gateway must be in the same network as the address.</source>
+        <translation>The gateway must be in the same network as the address.</translation>
+    </message>
+    <message>
+        <source>The gateway cannot be the device&apos;s own address.</source>
+        <translation>The gateway cannot be the device&apos;s own address.</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Applying…</translation>
+    </message>
+    <message>
+        <source>Applied.</source>
+        <translation>Applied.</translation>
+    </message>
+    <message>
+        <source>Applied, but the name servers could not be written: names may not resolve.</source>
+        <translation>Applied, but the name servers could not be written: names may not resolve.</translation>
+    </message>
+    <message>
+        <source>Not applied: the device refused these values.</source>
+        <translation>Not applied: the device refused these values.</translation>
+    </message>
+    <message>
+        <source>Automatic (DHCP)</source>
+        <translation>Automatic (DHCP)</translation>
+    </message>
+    <message>
+        <source>Fixed address</source>
+        <translation>Fixed address</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>Netmask</source>
+        <translation>Netmask</translation>
+    </message>
+    <message>
+        <source>Gateway</source>
+        <translation>Gateway</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Current address</source>
+        <translation>Current address</translation>
+    </message>
+    <message>
+        <source>no address</source>
+        <translation>no address</translation>
+    </message>
+    <message>
+        <source>via %1</source>
+        <translation>via %1</translation>
+    </message>
+    <message>
+        <source>Check connection</source>
+        <translation>Check connection</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Checking…</translation>
+    </message>
+    <message>
+        <source>%1 answers (check %2)</source>
+        <translation>%1 answers (check %2)</translation>
+    </message>
+    <message>
+        <source>%1 does not answer (check %2)</source>
+        <translation>%1 does not answer (check %2)</translation>
+    </message>
+</context>
+<context>
     <name>PageHost</name>
     <message>
         <source>Back</source>
@@ -245,6 +592,46 @@
     <message>
         <source>Versions and licences</source>
         <translation>Versions and licences</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>Address, DHCP, connection check</source>
+        <translation>Address, DHCP, connection check</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <source>Brightness, orientation</source>
+        <translation>Brightness, orientation</translation>
+    </message>
+    <message>
+        <source>CPU temperature, fan speed</source>
+        <translation>CPU temperature, fan speed</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Date and time</translation>
+    </message>
+    <message>
+        <source>Clock, time zone</source>
+        <translation>Clock, time zone</translation>
+    </message>
+    <message>
+        <source>Factory reset, switch off</source>
+        <translation>Factory reset, switch off</translation>
+    </message>
+    <message>
+        <source>Cooling</source>
+        <translation>Cooling</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
     </message>
 </context>
 <context>
@@ -303,6 +690,37 @@
     <message>
         <source>Media service silent</source>
         <translation>Media service silent</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPage</name>
+    <message>
+        <source>Factory reset</source>
+        <translation>Factory reset</translation>
+    </message>
+    <message>
+        <source>Device settings, network, brightness, fan, orientation, time zone</source>
+        <translation>Device settings, network, brightness, fan, orientation, time zone</translation>
+    </message>
+    <message>
+        <source>Reset the device to its factory settings? The address becomes 192.168.0.100 (fixed), brightness, fan, screen orientation and time zone return to their factory values.</source>
+        <translation>Reset the device to its factory settings? The address becomes 192.168.0.100 (fixed), brightness, fan, screen orientation and time zone return to their factory values.</translation>
+    </message>
+    <message>
+        <source>The device answered the reset with status %1.</source>
+        <translation>The device answered the reset with status %1.</translation>
+    </message>
+    <message>
+        <source>Switch off</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>Streams and recordings stop</source>
+        <translation>Streams and recordings stop</translation>
+    </message>
+    <message>
+        <source>Switch the device off now? Streams and recordings stop.</source>
+        <translation>Switch the device off now? Streams and recordings stop.</translation>
     </message>
 </context>
 <context>
