@@ -15,7 +15,7 @@ TestCase {
     name: "SystemPage"
     when: windowShown
 
-    function init() { fake.calls = []; fake.resetStatus = -1 }
+    function init() { fake.calls = [] }
 
     function test_confirmed_data() {
         return [{ tag: "reset, confirmed", button: "sysReset", answer: "confirmAction", calls: ["factoryReset"], action: "Factory reset" },
@@ -33,14 +33,6 @@ TestCase {
         mouseClick(findChild(page.confirm, data.answer))
         compare(fake.calls, data.calls)
         verify(!page.confirm.visible)
-    }
-
-    function test_resetStatusShown() {
-        var page = createTemporaryObject(systemPage, root)
-        page.store = fake
-        compare(findChild(page, "sysResetStatus").visible, false)
-        fake.resetStatus = 1
-        compare(findChild(page, "sysResetStatus").text, qsTranslate("SystemPage", "The device answered the reset with status %1.").arg(1))
     }
 }
 }
