@@ -15,7 +15,7 @@ Column {
         width: page.width
         height: Style.touch * 1.2
         label: qsTr("Factory reset")
-        detail: qsTr("Device settings, network, brightness, fan, orientation, time zone")
+        detail: qsTr("Network, brightness, fan, orientation, time zone")
         onClicked: confirm.ask(qsTr("Reset the device to its factory settings? The address becomes 192.168.0.100 (fixed), brightness, fan, screen orientation and time zone return to their factory values."),
                                qsTr("Factory reset"), function () { page.store.factoryReset() })
     }

@@ -698,8 +698,8 @@
         <translation>恢复出厂设置</translation>
     </message>
     <message>
-        <source>Device settings, network, brightness, fan, orientation, time zone</source>
-        <translation>设备设置、网络、亮度、风扇、方向、时区</translation>
+        <source>Network, brightness, fan, orientation, time zone</source>
+        <translation>网络、亮度、风扇、方向、时区</translation>
     </message>
     <message>
         <source>Reset the device to its factory settings? The address becomes 192.168.0.100 (fixed), brightness, fan, screen orientation and time zone return to their factory values.</source>

@@ -699,8 +699,8 @@
         <translation>Werkseinstellungen</translation>
     </message>
     <message>
-        <source>Device settings, network, brightness, fan, orientation, time zone</source>
-        <translation>Geräteeinstellungen, Netzwerk, Helligkeit, Lüfter, Ausrichtung, Zeitzone</translation>
+        <source>Network, brightness, fan, orientation, time zone</source>
+        <translation>Netzwerk, Helligkeit, Lüfter, Ausrichtung, Zeitzone</translation>
     </message>
     <message>
         <source>Reset the device to its factory settings? The address becomes 192.168.0.100 (fixed), brightness, fan, screen orientation and time zone return to their factory values.</source>

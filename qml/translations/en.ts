@@ -699,8 +699,8 @@
         <translation>Factory reset</translation>
     </message>
     <message>
-        <source>Device settings, network, brightness, fan, orientation, time zone</source>
-        <translation>Device settings, network, brightness, fan, orientation, time zone</translation>
+        <source>Network, brightness, fan, orientation, time zone</source>
+        <translation>Network, brightness, fan, orientation, time zone</translation>
     </message>
     <message>
         <source>Reset the device to its factory settings? The address becomes 192.168.0.100 (fixed), brightness, fan, screen orientation and time zone return to their factory values.</source>
