@@ -80,6 +80,7 @@ Window {
         manage.uiproc.connectGetInputSignalFormat()
         manage.uiproNetwork.initNetwork()
         manage.uiproNetwork.getIpAddress(0)
+        board.start(settings)
         manage.uiproc.initFinished()
         live.start()
         openStartPage(typeof csStartPage !== "undefined" ? csStartPage : "")

@@ -87,6 +87,8 @@ Rectangle {
             height: scroller.contentHeight
             source: host.current === "menu" ? Qt.resolvedUrl("MenuPage.qml") : host.entry ? host.entry.source : ""
             onLoaded: {
+                scroller.contentY = 0 // a new page starts at its top
+                item.objectName = host.current
                 if (host.current === "menu")
                     item.openPage.connect(host.show)
                 else if (host.entry)
@@ -94,9 +96,15 @@ Rectangle {
             }
         }
 
-        // Keeps the field being edited above the keyboard.
+        // Keeps the field being edited above the keyboard. Only a field of the
+        // page shown counts: focus left behind on the page's slot does not.
         function reveal(target) {
             if (!target || !content.item)
+                return
+            var inside = false
+            for (var p0 = target.parent; p0 && !inside; p0 = p0.parent)
+                inside = p0 === content.item
+            if (!inside)
                 return
             var p = target.mapToItem(content.item, 0, 0)
             if (p.y < contentY)

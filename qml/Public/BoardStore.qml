@@ -225,15 +225,41 @@ QtObject {
         if (typeof settings.timeZone === "number" && settings.timeZone >= 0 && settings.timeZone < zones.length)
             timeZone = settings.timeZone
     }
-    function start() {
-        loadSettings(manage.uiproc.getIniData())
+    // Start-up, called by the window after the settings are read and before
+    // it declares start-up finished: the fan gets its mode, a software
+    // upgrade that has just restarted the program finishes with the HDMI
+    // bridge firmware, and the HDMI monitor watch begins.
+    function start(settings) {
+        loadSettings(settings)
         fanRate = fanAuto ? autoRate(temperature) : fans
         manage.uiproc.connectFans(fanRate, true)
+        if (manage.uiproc.qtVersion()) {
+            bridgeUpgrade = 0
+            manage.uiproc.connectHdmiUpdate()
+            bridgePoll.start()
+        }
         manage.uiproc.getCPUTemperature()
         temperaturePoll.start()
+        hdmiWatch.start()
     }
-    // After the window's start-up has read the settings file.
-    Component.onCompleted: if (manage) Qt.callLater(start)
+
+    // HDMI bridge firmware after an upgrade: -1 none, 0 running, 1 done, 2 failed.
+    property int bridgeUpgrade: -1
+    property Timer bridgePoll: Timer {
+        interval: 1000; repeat: true
+        onTriggered: {
+            var result = store.manage.uiproc.connectHdmiCheck()
+            if (result === 1 || result === 2) {
+                stop()
+                store.bridgeUpgrade = result
+            }
+        }
+    }
+    // Restarts the sub-display when an HDMI monitor comes or goes.
+    property Timer hdmiWatch: Timer {
+        interval: 200; repeat: true
+        onTriggered: store.manage.uiproc.connectReSubCS()
+    }
 
     property Connections networkReports: Connections {
         target: store.manage ? store.manage.uiproNetwork : null

@@ -22,6 +22,12 @@ TestCase {
             function connectPowerOff() { fakeManage.note("off") }
             function getCPUTemperature() { fakeManage.note("temperature?") }
             function writeInitConfig(obj) { fakeManage.note("save " + JSON.stringify(obj)) }
+            property bool upgraded: false
+            property var bridgeAnswers: []
+            function qtVersion() { return upgraded }
+            function connectHdmiUpdate() { fakeManage.note("bridge update") }
+            function connectHdmiCheck() { var a = bridgeAnswers.slice(); var r = a.shift(); bridgeAnswers = a; return r }
+            function connectReSubCS() { fakeManage.note("watch") }
         }
         property QtObject uiproNetwork: QtObject {
             signal showIpAddress(string ipStr, string maskStr, string gwStr)
@@ -45,6 +51,25 @@ TestCase {
         store.fanRate = 50
         store.timeZone = 0
         store.temperature = -1
+    }
+
+    function test_startUp_data() {
+        return [{ tag: "fixed fan, no upgrade", settings: { fans: 40 }, upgraded: false, bridge: [], first: ["fans 40 true", "temperature?"], state: -1 },
+                { tag: "after an upgrade the bridge firmware follows", settings: { fans: 40 }, upgraded: true, bridge: [0, 0, 2],
+                  first: ["fans 40 true", "bridge update", "temperature?"], state: 2 }]
+    }
+    function test_startUp(data) {
+        fakeManage.uiproc.upgraded = data.upgraded
+        fakeManage.uiproc.bridgeAnswers = data.bridge
+        store.start(data.settings)
+        compare(fakeManage.sent.slice(0, data.first.length), data.first)
+        tryVerify(function () { return fakeManage.sent.indexOf("watch") >= 0 }, 1000, "the HDMI monitor watch runs")
+        if (data.upgraded)
+            tryCompare(store, "bridgeUpgrade", data.state, 5000)
+        else
+            compare(store.bridgeUpgrade, -1)
+        store.hdmiWatch.stop()
+        store.temperaturePoll.stop()
     }
 
     function test_applyNetwork_data() {
