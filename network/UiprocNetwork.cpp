@@ -1,5 +1,7 @@
 #include "UiprocNetwork.h"
 
+#include "LineThrottle.h"
+
 #include "Logger.h"
 #include "Platform.h"
 #include "Shell.h"
@@ -85,22 +87,13 @@ Config readConfig()
 // shows it cut and escaped, at most one line a second.
 void logRefused(const QString &where, const QString &name, const QString &value)
 {
-    static QMutex mutex;
-    static QElapsedTimer clock;
-    static int held = 0;
-    QMutexLocker lock(&mutex);
-    if (clock.isValid() && clock.elapsed() < 1000) {
-        ++held;
+    static LineThrottle throttle;
+    int held = 0;
+    if (!throttle.admit(&held))
         return;
-    }
-    clock.start();
-    QString shown;
-    for (const QChar c : value.left(64))
-        shown += c.isPrint() && c != QLatin1Char('\\') ? QString(c) : QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
-    writeLog(QStringLiteral("UiprocNetwork::%1 %2 \"%3\"%4 is not a dotted IPv4 address, nothing saved or run%5")
-                 .arg(where, name, shown, value.size() > 64 ? QStringLiteral("...") : QString(),
+    writeLog(QStringLiteral("UiprocNetwork::%1 %2 \"%3\" is not a dotted IPv4 address, nothing saved or run%4")
+                 .arg(where, name, LineThrottle::shown(value, 64),
                       held ? QStringLiteral(" (%1 more refused since the last such line)").arg(held) : QString()));
-    held = 0;
 }
 
 // True when every static value may reach a command; with DHCP on they are

@@ -1,5 +1,7 @@
 #include "Shell.h"
 
+#include "LineThrottle.h"
+
 #include "CommandConfinement.h"
 #include "LogCategories.h"
 #include "Platform.h"
@@ -24,22 +26,12 @@ namespace {
 // from outside, so the line is cut, escaped and written at most once a second.
 void logRefused(const QString &line, const QString &why)
 {
-    static QMutex mutex;
-    static QElapsedTimer clock;
-    static int held = 0;
-    QMutexLocker lock(&mutex);
-    if (clock.isValid() && clock.elapsed() < 1000) {
-        ++held;
+    static LineThrottle throttle;
+    int held = 0;
+    if (!throttle.admit(&held))
         return;
-    }
-    clock.start();
-    QString shown;
-    for (const QChar c : line.left(200))
-        shown += c.isPrint() && c != QLatin1Char('\\') ? QString(c) : QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
-    qCWarning(lcShell).noquote() << "not run, it cannot be kept inside the sysroot (" + why + "):" << shown
-                                 << (line.size() > 200 ? QStringLiteral("...") : QString())
+    qCWarning(lcShell).noquote() << "not run, it cannot be kept inside the sysroot (" + why + "):" << LineThrottle::shown(line, 200)
                                  << (held ? QStringLiteral("(%1 more not run since the last message)").arg(held) : QString());
-    held = 0;
 }
 
 // Spawns /bin/sh -c line with the child environment. posix_spawn keeps this

@@ -7,8 +7,7 @@
 // time limit.
 #include "BlockCollector.h"
 
-#include <QLoggingCategory>
-#include <QTemporaryDir>
+#include "../QuietSysroot.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,22 +21,11 @@ void require(bool ok)
         std::abort();
 }
 
-void quietLog()
-{
-    static QTemporaryDir sysroot; // the log layer never touches the host's /CSLog
-    static bool ready = [] {
-        qputenv("CS_SYSROOT", sysroot.path().toLocal8Bit());
-        QLoggingCategory::setFilterRules(QStringLiteral("cs.*=false"));
-        return true;
-    }();
-    Q_UNUSED(ready);
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    quietLog();
+    useQuietSysroot();
     BlockCollector collector;
     qint64 now = 0;
     size_t at = 0;

@@ -6,8 +6,7 @@
 #include "UiprocVideo_Desktop.h"
 #include "VideoFormatList.h"
 
-#include <QLoggingCategory>
-#include <QTemporaryDir>
+#include "../QuietSysroot.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -16,13 +15,7 @@ namespace {
 
 UiprocVideo_Desktop &dispatcher()
 {
-    static QTemporaryDir sysroot; // the log layer never touches the host's /CSLog
-    static bool ready = [] {
-        qputenv("CS_SYSROOT", sysroot.path().toLocal8Bit());
-        QLoggingCategory::setFilterRules(QStringLiteral("cs.*=false"));
-        return true;
-    }();
-    Q_UNUSED(ready);
+    useQuietSysroot();
     static UiprocVideo_Desktop video;
     return video;
 }
