@@ -44,8 +44,10 @@ Rectangle {
             text: button.detail
             color: Style.textDim
             font.pixelSize: Style.fontSmall
-            fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: Style.fontTiny
+            // A long (German) state word or hint takes a second line at full
+            // size; even the row under a page has room for it.
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
             elide: Text.ElideRight
         }
     }

@@ -31,6 +31,7 @@ Column {
             objectName: "fanAuto"
             width: (page.width - Style.gap) / 2
             label: qsTr("Automatic")
+            detail: checked ? qsTr("Selected") : ""   // the choice in words, not only in colour
             checked: page.store ? page.store.fanAuto : false
             onClicked: page.store.setFanAuto(true)
         }
@@ -38,6 +39,7 @@ Column {
             objectName: "fanFixed"
             width: (page.width - Style.gap) / 2
             label: qsTr("Fixed speed")
+            detail: checked ? qsTr("Selected") : ""
             checked: page.store ? !page.store.fanAuto : false
             onClicked: page.store.setFanAuto(false)
         }

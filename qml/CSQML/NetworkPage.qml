@@ -61,6 +61,7 @@ Column {
             objectName: "netDhcp"
             width: (page.width - Style.gap) / 2
             label: qsTr("Automatic (DHCP)")
+            detail: checked ? qsTr("Selected") : ""   // the choice in words, not only in colour
             checked: page.useDhcp
             onClicked: { page.useDhcp = true; page.problem = "" }
         }
@@ -68,6 +69,7 @@ Column {
             objectName: "netStatic"
             width: (page.width - Style.gap) / 2
             label: qsTr("Fixed address")
+            detail: checked ? qsTr("Selected") : ""
             checked: !page.useDhcp
             onClicked: page.useDhcp = false
         }

@@ -363,6 +363,10 @@
         <source>Automatic: %1 % up to %2 °C, rising evenly to 100 % at %3 °C and above.</source>
         <translation>自动：%2 °C 及以下为 %1 %，之后匀速升高，%3 °C 及以上为 100 %。</translation>
     </message>
+    <message>
+        <source>Selected</source>
+        <translation>已选</translation>
+    </message>
 </context>
 <context>
     <name>InputRow</name>
@@ -557,6 +561,10 @@
     <message>
         <source>%1 does not answer (check %2)</source>
         <translation>%1 无响应（第 %2 次检查）</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>已选</translation>
     </message>
 </context>
 <context>

@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Not recording</source>
-        <translation>Keine Aufnahme</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Picture in picture</source>
@@ -364,6 +364,10 @@
         <source>Automatic: %1 % up to %2 °C, rising evenly to 100 % at %3 °C and above.</source>
         <translation>Automatisch: %1 % bis %2 °C, dann gleichmäßig steigend bis 100 % ab %3 °C.</translation>
     </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
 </context>
 <context>
     <name>InputRow</name>
@@ -558,6 +562,10 @@
     <message>
         <source>%1 does not answer (check %2)</source>
         <translation>%1 antwortet nicht (Prüfung %2)</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
     </message>
 </context>
 <context>

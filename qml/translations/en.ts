@@ -364,6 +364,10 @@
         <source>Automatic: %1 % up to %2 °C, rising evenly to 100 % at %3 °C and above.</source>
         <translation>Automatic: %1 % up to %2 °C, rising evenly to 100 % at %3 °C and above.</translation>
     </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
 </context>
 <context>
     <name>InputRow</name>
@@ -558,6 +562,10 @@
     <message>
         <source>%1 does not answer (check %2)</source>
         <translation>%1 does not answer (check %2)</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
     </message>
 </context>
 <context>
