@@ -18,6 +18,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 
+#include <atomic>
 #include <cstdio>
 
 extern "C" {
@@ -118,15 +119,16 @@ void scheduleDevelopmentHooks(QObject *root)
 {
     if (qEnvironmentVariableIsSet("CS_EXIT_AFTER_FIRST_FRAME") && root) {
         if (auto *window = qobject_cast<QQuickWindow *>(root)) {
+            // The time is taken as the frame is swapped (on whichever thread
+            // swaps it), before anything the window does in reply.
             QObject::connect(window, &QQuickWindow::frameSwapped, window, [] {
-                static bool reported = false;
-                if (reported)
+                static std::atomic<bool> reported{false};
+                if (reported.exchange(true))
                     return;
-                reported = true;
                 std::printf("first-frame-ms=%lld peak-rss-kb=%ld\n", g_sinceStart.elapsed(), peakRssKb());
                 std::fflush(stdout);
-                QCoreApplication::quit();
-            }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+            }, Qt::DirectConnection);
         }
     }
     const QString shot = qEnvironmentVariable("CS_SCREENSHOT");

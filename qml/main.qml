@@ -17,7 +17,9 @@ Window {
     UiprocManage { id: manage }
     LiveStore { id: live; manage: manage }
     SystemStore { id: system; manage: manage; live: live; about: typeof csAbout !== "undefined" ? csAbout : ({}) }
-    BoardStore { id: board; manage: manage }
+    // The board's store is made with the device start, after the first frame.
+    property var board: null
+    Component { id: boardStore; BoardStore {} }
 
     MainView {
         id: mainView
@@ -59,6 +61,40 @@ Window {
         }
     }
 
+    // First the picture the operator sees: the settings shape the window and
+    // its texts. The device, the board and the network start right after
+    // the first frame is on screen, in the order they must keep, so their
+    // threads and child processes do not hold up that frame.
+    property var startSettings: ({})
+    property bool deviceStarted: false
+    function startDeviceOnce() {
+        if (!deviceStarted) {
+            deviceStarted = true
+            startDevice(startSettings)
+        }
+    }
+    onFrameSwapped: startDeviceOnce()
+    // A window that never shows a frame (offscreen, hidden) starts all the same.
+    Timer { interval: 300; running: true; onTriggered: window.startDeviceOnce() }
+
+    function startDevice(settings) {
+        manage.uiproc.writeLog("qml start share image")
+        manage.uiprocGetImageShareData.getShareImageData()
+        manage.uiproc.writeLog("qml start share audio")
+        manage.uiprocGetAudioShareData.getShareAudioData()
+        manage.uiproVideo.bizConnect()
+        manage.uiproc.writeLog("qml start GetInputSignalFormat")
+        manage.uiproc.connectGetInputSignalFormat()
+        manage.uiproNetwork.initNetwork()
+        manage.uiproNetwork.getIpAddress(0)
+        board = boardStore.createObject(window, { manage: manage })
+        board.start(settings)
+        manage.uiproc.initFinished()
+        live.start()
+        // A page asks the device as it opens: only once reports are heard.
+        openStartPage(typeof csStartPage !== "undefined" ? csStartPage : "")
+    }
+
     Component.onCompleted: {
         manage.uiproc.writeLog("qml start")
         manage.uiproc.readInitConfig()
@@ -71,18 +107,6 @@ Window {
         }
         live.loadSettings(settings)
         system.loadSettings(settings)
-        manage.uiproc.writeLog("qml start share image")
-        manage.uiprocGetImageShareData.getShareImageData()
-        manage.uiproc.writeLog("qml start share audio")
-        manage.uiprocGetAudioShareData.getShareAudioData()
-        manage.uiproVideo.bizConnect()
-        manage.uiproc.writeLog("qml start GetInputSignalFormat")
-        manage.uiproc.connectGetInputSignalFormat()
-        manage.uiproNetwork.initNetwork()
-        manage.uiproNetwork.getIpAddress(0)
-        board.start(settings)
-        manage.uiproc.initFinished()
-        live.start()
-        openStartPage(typeof csStartPage !== "undefined" ? csStartPage : "")
+        startSettings = settings
     }
 }

@@ -7,6 +7,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
+#include <atomic>
 #include <cstdio>
 
 namespace {
@@ -34,14 +35,14 @@ int main(int argc, char **argv)
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     if (!window)
         return 1;
+    // Timed as the frame is swapped, exactly as the front end times itself.
     QObject::connect(window, &QQuickWindow::frameSwapped, window, [] {
-        static bool reported = false;
-        if (reported)
+        static std::atomic<bool> reported{false};
+        if (reported.exchange(true))
             return;
-        reported = true;
         std::printf("first-frame-ms=%lld peak-rss-kb=%ld\n", g_clock.elapsed(), peakRssKb());
         std::fflush(stdout);
-        QCoreApplication::quit();
-    }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+    }, Qt::DirectConnection);
     return app.exec();
 }
