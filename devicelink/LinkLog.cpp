@@ -21,18 +21,6 @@ QString printable(const QByteArray &bytes)
     return out;
 }
 
-bool RateLimit::admit(qint64 nowMs, int *held)
-{
-    if (m_lastMs >= 0 && nowMs - m_lastMs < m_intervalMs) {
-        ++m_held;
-        return false;
-    }
-    m_lastMs = nowMs;
-    *held = m_held;
-    m_held = 0;
-    return true;
-}
-
 bool RepeatFilter::shouldLog(const QByteArray &datagram, qint64 nowMs, int *repeats)
 {
     *repeats = 0;

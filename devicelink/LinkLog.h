@@ -3,6 +3,8 @@
 // fixed number of its bytes, the same datagram repeated (a heartbeat and
 // its answer, a flood of one frame) is logged once a minute with a count,
 // and warnings about hostile traffic at most once a second.
+#include "LineThrottle.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -17,23 +19,7 @@ constexpr int kLoggedBytes = 256;
 // the log stays one readable line, cut after kLoggedBytes bytes.
 QString printable(const QByteArray &bytes);
 
-// One line per interval; the lines held back in between are counted.
-class RateLimit
-{
-public:
-    explicit RateLimit(qint64 intervalMs = 1000)
-        : m_intervalMs(intervalMs)
-    {
-    }
-    // True when a line may be written now; *held then receives the number
-    // of lines held back since the last one written.
-    bool admit(qint64 nowMs, int *held);
-
-private:
-    qint64 m_intervalMs;
-    qint64 m_lastMs = -1;
-    int m_held = 0;
-};
+using RateLimit = ::RateLimit;
 
 // Remembers recently logged datagrams. A datagram seen again within the
 // window is not logged; the next time it is logged, the count of those

@@ -6,27 +6,22 @@
 #include "UiProc.h"
 
 #include "BoardControl.h"
+#include "LogCategories.h"
 #include "Logger.h"
 #include "Platform.h"
 #include "Shell.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLoggingCategory>
 
 #include <system_error>
 #include <thread>
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcHardware, "cs.hardware")
-
 const char kBridgeUpgradeStatus[] = "/sys/devices/platform/lt6911_upgrade/status";
 const char kBridgeUpdateStatus[] = "/sys/devices/platform/lt6911_update/status";
 const char kKillSubDisplay[] = "ps aux | grep SubCS | grep -v 'grep' | awk '{print $2}' | xargs kill -9";
-
-// Usable from worker threads, which must not touch the UiProc.
-void log(const QString &line) { Logger::instance().write(line); }
 
 // Board work that may take seconds runs on its own detached thread, so the
 // screens never wait for it. Without a thread the work is dropped, said in
@@ -36,7 +31,7 @@ void runDetached(const char *slot, std::function<void()> work)
     try {
         std::thread(std::move(work)).detach();
     } catch (const std::system_error &e) {
-        log(QStringLiteral("UiProc::%1 no thread (%2), not run").arg(QLatin1String(slot), QString::fromLocal8Bit(e.what())));
+        ::writeLog(QStringLiteral("UiProc::%1 no thread (%2), not run").arg(QLatin1String(slot), QString::fromLocal8Bit(e.what())));
     }
 }
 
@@ -59,8 +54,8 @@ void UiProc::setClock(std::function<QDateTime()> clock) { m_clock = std::move(cl
 
 bool UiProc::connectBrightness(int value)
 {
-    writeLog(QStringLiteral("UiProc::sendBrightness ==================== Brightness value"));
-    writeLog(QStringLiteral("UiProc::sendBrightness ==================== Brightness value:") + QString::number(value));
+    ::writeLog(QStringLiteral("UiProc::sendBrightness ==================== Brightness value"));
+    ::writeLog(QStringLiteral("UiProc::sendBrightness ==================== Brightness value:") + QString::number(value));
     Shell::system(QStringLiteral("echo %1 > /sys/class/backlight/backlight/brightness").arg(value));
     return true;
 }
@@ -70,16 +65,16 @@ bool UiProc::connectFans(int ratePercent) { return connectFans(ratePercent, fals
 bool UiProc::connectFans(int ratePercent, bool bInit)
 {
     runDetached("connectFans", [ratePercent, bInit] {
-        log(QStringLiteral("UiProc::sendFans ==================== fans rate"));
+        ::writeLog(QStringLiteral("UiProc::sendFans ==================== fans rate"));
         if (bInit) {
-            log(QStringLiteral("UiProc::sendFans ==================== fans init"));
+            ::writeLog(QStringLiteral("UiProc::sendFans ==================== fans init"));
             Shell::system(QStringLiteral("echo 0 > /sys/class/pwm/pwmchip1/export"));
             Shell::system(QStringLiteral("sleep 1")); // the pwm0 node appears after the export
             Shell::system(QStringLiteral("echo 50000 > /sys/class/pwm/pwmchip1/pwm0/period"));
             Shell::system(QStringLiteral("echo 1 > /sys/class/pwm/pwmchip1/pwm0/enable"));
         }
         const int duty = BoardControl::fanDuty(ratePercent);
-        log(QStringLiteral("UiProc::sendFans ==================== fans rate:") + QString::number(duty));
+        ::writeLog(QStringLiteral("UiProc::sendFans ==================== fans rate:") + QString::number(duty));
         Shell::system(QStringLiteral("echo %1 > /sys/class/pwm/pwmchip1/pwm0/duty_cycle").arg(duty));
     });
     return true;
@@ -88,8 +83,8 @@ bool UiProc::connectFans(int ratePercent, bool bInit)
 bool UiProc::connectHdmiUpdate()
 {
     runDetached("connectHdmiUpdate", [] {
-        log(QStringLiteral("UiProc::sendHDMI ==================== HDMI 升级"));
-        log(QStringLiteral("UiProc::sendFans ==================== fans init"));
+        ::writeLog(QStringLiteral("UiProc::sendHDMI ==================== HDMI 升级"));
+        ::writeLog(QStringLiteral("UiProc::sendFans ==================== fans init"));
         Shell::system(QStringLiteral("echo 1 > /sys/devices/platform/lt6911_upgrade/upgrade"));
         Shell::system(QStringLiteral("echo 1 > /sys/devices/platform/lt6911_update/update"));
     });
@@ -126,7 +121,7 @@ bool UiProc::connectReSubCS()
 
 bool UiProc::connectSetDate(int year, int month, int days, int hours, int minutes, int seconds)
 {
-    writeLog(QStringLiteral("UiProc::sendSetDate ==================== set date"));
+    ::writeLog(QStringLiteral("UiProc::sendSetDate ==================== set date"));
     const BoardControl::ClockTexts texts = BoardControl::setDateTexts(year, month, days, hours, minutes, seconds);
     qCDebug(lcHardware).noquote() << "---------r---ggg-----------------------------------------------------------setTime"
                                   << texts.date << texts.time;
@@ -198,7 +193,7 @@ bool UiProc::updateFactory()
 {
     const QString marker = Platform::path(QStringLiteral("/usr/bin/factory"));
     if (!QFileInfo::exists(marker)) {
-        writeLog(QStringLiteral("no find factory"));
+        ::writeLog(QStringLiteral("no find factory"));
         return false;
     }
     QFile::remove(marker);
@@ -211,7 +206,7 @@ bool UiProc::qtVersion()
     // Left by an upgrade of this software: present once, on the first start after it.
     const QString marker = Platform::path(QStringLiteral("/usr/bin/qt_version"));
     if (!QFileInfo::exists(marker)) {
-        writeLog(QStringLiteral("no find qt_version"));
+        ::writeLog(QStringLiteral("no find qt_version"));
         return false;
     }
     QFile::remove(marker);

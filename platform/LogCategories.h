@@ -10,4 +10,5 @@ Q_DECLARE_LOGGING_CATEGORY(lcShell)     // cs.shell: commands run
 Q_DECLARE_LOGGING_CATEGORY(lcLink)      // cs.link: transport and commands
 Q_DECLARE_LOGGING_CATEGORY(lcReport)    // cs.report: report dispatch
 Q_DECLARE_LOGGING_CATEGORY(lcPreview)   // cs.preview: frames and levels
+Q_DECLARE_LOGGING_CATEGORY(lcHardware)  // cs.hardware: board control
 Q_DECLARE_LOGGING_CATEGORY(lcSim)       // cs.sim: the media service simulator
