@@ -55,8 +55,7 @@ TestCase {
     function test_backAndClose_data() {
         return [{ tag: "back from a page", from: "about", button: "pageBack", to: "menu" },
                 { tag: "back from the menu", from: "menu", button: "pageBack", to: "" },
-                { tag: "close from a page", from: "language", button: "pageClose", to: "" },
-                { tag: "close from the menu", from: "menu", button: "pageClose", to: "" }]
+                { tag: "close from a page", from: "language", button: "pageClose", to: "" }]
     }
     function test_backAndClose(data) {
         verify(host.show(data.from))
