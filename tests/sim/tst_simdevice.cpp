@@ -67,7 +67,6 @@ QVector<Row> rows()
         {"record file name keeps harmless characters", {cmd(0xF0, 0xBC, 0, 0, 0, "../../etc/passwd;rm"), cmd(0xC2, 1, 1), cmd(0xF1, 0x45)},
          {"<F0000f1450025005b>", QByteArray("/media/usb0/CSRecord/etcpasswdrm.mp4", 37)},
          {R"(pushRecordFileName("/media/usb0/CSRecord/etcpasswdrm.mp4","etcpasswdrm"))"}},
-        {"record file name, none yet", {cmd(0xF1, 0x45)}, {"<F0000f14500000036>"}, {R"(pushRecordFileName("",""))"}},
         {"record file name cleared", {cmd(0xC2, 1, 1), cmd(0xC2, 3), cmd(0xF1, 0x45)}, {"<F0000f14500000036>"}, {R"(pushRecordFileName("",""))"}},
         {"audio channel", {cmd(0xC3, 2)}, {"<F0000c302000000c5>"}, {}},
         {"bluetooth on", {cmd(0xC5, 1)}, {"<F0000c501000000c6>"}, {}},
@@ -75,7 +74,6 @@ QVector<Row> rows()
         {"bluetooth search", {cmd(0xC5, 3, 5)}, {"<F0000c503000000c8>"}, {"pushBluetoothFin()"}},
         {"bluetooth broadcast search", {cmd(0xC5, 4)}, {"<F0000c505000000ca>"}, {"pushBluetoothFinBroadCast()"}},
         {"bluetooth connect new", {cmd(0xC5, 0xB5)}, {"<F0000c5b50000007a>"}, {}},
-        {"bluetooth connect new off", {cmd(0xC5, 0, 0xB6)}, {"<F0000c500b600007b>"}, {}},
         {"bluetooth open new", {cmd(0xC5, 0xB7)}, {"<F0000c5b70000007c>"}, {}},
         {"bluetooth connect", {cmd(0xF0, 0xB6, 0, 0, 0, speaker)}, {"<F0000f0b6000000a6>"}, {"pushConnectResult(0,true)"}},
         {"bluetooth connect unknown", {cmd(0xF0, 0xB6, 0, 0, 0, summed(hex("112233445566")))}, {"<F0000f0b6000500ab>"}, {"pushConnectResult(0,false)"}},
@@ -90,7 +88,6 @@ QVector<Row> rows()
         {"ndi data type set", {cmd(0xC6, 2, 3, 4)}, {"<F0000c603030400d0>"}, {"pushNdiDataType(3,4)"}},
         {"ndi data type read", {cmd(0xC6, 3)}, {"<F0000c603000000c9>"}, {"pushNdiDataType(0,0)"}},
         {"ndi decoding format set", {cmd(0xC6, 6, 2)}, {"<F0000c607020000cf>"}, {"pushNDIDecodingVideoFormat(2)"}},
-        {"ndi decoding format read", {cmd(0xC6, 7)}, {"<F0000c607000000cd>"}, {"pushNDIDecodingVideoFormat(0)"}},
         {"ndi decoding switch", {cmd(0xC6, 8, 1)}, {"<F0000c608010000cf>"}, {"pushNDIDecodingStatus(1)"}},
         {"ndi menu switch (no answer)", {cmd(0xC6, 4, 1)}, {}, {}},
         {"ndi group name read back", {cmd(0xF0, 0xB8, 0, 0, 0, "Studio A"), cmd(0xF1, 0xB8, 0)},
@@ -105,7 +102,6 @@ QVector<Row> rows()
          {"<F0000f1b8030a00b6>", hex("0204c0a80001ffff0000")},
          {R"(pushNdiConnectType({"addr1":192,"addr2":168,"addr3":0,"addr4":1,"netmask1":255,"netmask2":255,"netmask3":0,)"
           R"("netmask4":0,"ttlValue":4,"type":2}))"}},
-        {"ndi connection with a bad check byte", {cmd(0xF0, 0xB8, 3, 0, 0, hex("0001efff0001ffffff0000"))}, {}, {}},
         {"ndi base information", {cmd(0xF1, 0xB8, 4)}, {"<F0000f1b8040a00b7>", hex("800738043c3c401f80bb")},
          {R"(pushNdiBaseInfo("1920x1080@60",60,8000,48000))"}},
         {"ndi decoding source", {cmd(0xF0, 0xBB, 0, 0, 0, "CAM")}, {"<F0000f0bb000000ab>"}, {}},
@@ -116,7 +112,6 @@ QVector<Row> rows()
         {"scope (no answer)", {cmd(0xC7, 1, 2, 1, 3)}, {}, {}},
         {"uvc style (no answer)", {cmd(0xC8, 0, 0, 1, 2)}, {}, {}},
         {"ptz support uvc 1", {cmd(0xC8, 3, 0)}, {"<F0000c803000f00da>"}, {"pushPTZStatus(1,1,1,1)"}},
-        {"ptz support uvc 2", {cmd(0xC8, 3, 1)}, {"<F0000c803010500d1>"}, {"pushPTZStatus(1,0,1,0)"}},
         {"auto focus off", {cmd(0xC8, 4, 1, 1, 0)}, {"<F0000c804010100ce>"}, {"pushPTZAutoFocus(0)"}},
         {"view set", {cmd(0xC8, 4, 0, 2, 3)}, {"<F0000c804000203d1>"}, {"pushPTZView(3)"}},
         {"view read", {cmd(0xC8, 4, 1, 2, 5), cmd(0xC8, 5, 1, 2)}, {"<F0000c805010205d5>"}, {"pushPTZView(5)"}},
@@ -140,7 +135,6 @@ QVector<Row> rows()
         {"uvc 2 styles", {cmd(0xF1, 0xB9, 1)}, {"<F0000f1b9010300ae>", hex("000200")}, {"pushStyleStatus([0,2])"}},
         {"current format hdmi 1", {cmd(0xF1, 0xBA, 0)}, {"<F0000f1ba000700b2>", hex("00800738043c00")},
          {R"(pushInputFormatInitiative(0,{"DataType":0,"Fps":60,"height":1080,"width":1920}))"}},
-        {"current format of unplugged uvc 2", {cmd(0xF1, 0xBA, 3)}, {"<F0000f1ba030000ae>"}, {"pushInputFormatInitiative(3,{})"}},
         {"script: unplug hdmi 1", {"@unplug 0"}, {"<F0000d001000000d1>"}, {"pushInputInitiative(0,0)"}},
         {"script: plug uvc 2", {"@plug 3"}, {"<F0000d001010300d5>"}, {"pushInputInitiative(1,3)"}},
         {"script: unplugged input has no current format", {"@unplug 1", cmd(0xF1, 0xBA, 1)}, {"<F0000f1ba010000ac>"}, {"pushInputFormatInitiative(1,{})"}},
@@ -152,10 +146,8 @@ QVector<Row> rows()
         {"unknown command", {cmd(0x55, 1)}, {}, {}},
         {"non-extended command with a block", {cmd(0x78, 1, 1) + "x"}, {}, {}},
         {"empty datagram", {QByteArray()}, {}, {}},
-        {"18 bytes", {cmd(0x78, 1, 1).left(18)}, {}, {}},
         {"report echoed back", {"<F000078010100007a>"}, {}, {}},
         {"bad hex", {"<T0000780g0100007a>"}, {}, {}},
-        {"no '>'", {"<T000078010100007a)"}, {}, {}},
         {"checksum off by one", {"<T000078010100007b>"}, {}, {}},
         {"truncated block not applied", {"<T0000f0b8000300ab>ab", cmd(0xF1, 0xB8, 0)}, {publicGroup[0], publicGroup[1]}, {R"(pushNdiGroupName("public"))"}},
         {"overlong block not applied", {"<T0000f0b8000300ab>abcd", cmd(0xF1, 0xB8, 0)}, {publicGroup[0], publicGroup[1]}, {R"(pushNdiGroupName("public"))"}},
@@ -255,7 +247,6 @@ private slots:
         QTest::newRow("comments and blanks") << "# demo\n\n  0.25 typec 0  \n" << "1 0 250";
         QTest::newRow("unknown verb") << "1 explode 3\n2 usb 1" << "1 1 2000";
         QTest::newRow("input out of range") << "1 unplug 7" << "0 1 -";
-        QTest::newRow("negative time") << "-1 usb 1" << "0 1 -";
         QTest::newRow("bad report byte") << "1 report d0 1ff" << "0 1 -";
         QTest::newRow("shell text is just a bad line") << "1 $(reboot)\n`id`" << "0 2 -";
     }
