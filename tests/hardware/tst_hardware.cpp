@@ -30,24 +30,12 @@ public:
         add((QStringList{program} + args).join(QLatin1Char(' ')));
         return SystemShellRunner::process(program, args, timeoutMs);
     }
-    QStringList lines() const
-    {
-        QMutexLocker lock(&m_mutex);
-        return m_lines;
-    }
-    void clear()
-    {
-        QMutexLocker lock(&m_mutex);
-        m_lines.clear();
-    }
+    QStringList lines() const { QMutexLocker lock(&m_mutex); return m_lines; }
+    void clear() { QMutexLocker lock(&m_mutex); m_lines.clear(); }
     std::atomic<bool> failSystem{false};
 
 private:
-    void add(const QString &line)
-    {
-        QMutexLocker lock(&m_mutex);
-        m_lines << line;
-    }
+    void add(const QString &line) { QMutexLocker lock(&m_mutex); m_lines << line; }
     mutable QMutex m_mutex;
     QStringList m_lines;
 };
@@ -116,14 +104,11 @@ private slots:
         QTest::addColumn<QString>("logLine");
         const QStringList init{"echo 0 > /sys/class/pwm/pwmchip1/export", "sleep 1", "echo 50000 > /sys/class/pwm/pwmchip1/pwm0/period",
                                "echo 1 > /sys/class/pwm/pwmchip1/pwm0/enable"};
-        for (const auto &[percent, duty] : {std::pair{0, 0}, {50, 24995}, {100, 49990}}) {
-            const int rate = percent; // a lambda cannot capture a binding in C++17
-            const QStringList write{QStringLiteral("echo %1 > /sys/class/pwm/pwmchip1/pwm0/duty_cycle").arg(duty)};
-            const QString rateLine = QStringLiteral("UiProc::sendFans ==================== fans rate:%1").arg(duty);
-            QTest::addRow("fan %d", rate) << Call([rate](UiProc &p) { p.connectFans(rate); }) << write << rateLine;
-            QTest::addRow("fan %d with init", rate) << Call([rate](UiProc &p) { p.connectFans(rate, true); }) << init + write
-                                                    << "UiProc::sendFans ==================== fans init";
-        }
+        const auto duty = [](int v) { return QStringList{QStringLiteral("echo %1 > /sys/class/pwm/pwmchip1/pwm0/duty_cycle").arg(v)}; };
+        QTest::newRow("fan 0") << Call([](UiProc &p) { p.connectFans(0); }) << duty(0) << "UiProc::sendFans ==================== fans rate:0";
+        QTest::newRow("fan 100") << Call([](UiProc &p) { p.connectFans(100); }) << duty(49990) << "UiProc::sendFans ==================== fans rate:49990";
+        QTest::newRow("fan 50 with init") << Call([](UiProc &p) { p.connectFans(50, true); }) << init + duty(24995)
+                                          << "UiProc::sendFans ==================== fans init";
         QTest::newRow("backlight") << Call([](UiProc &p) { p.connectBrightness(200); })
                                    << QStringList{"echo 200 > /sys/class/backlight/backlight/brightness"}
                                    << "UiProc::sendBrightness ==================== Brightness value:200";
@@ -162,10 +147,7 @@ private slots:
         QTest::newRow("00:30 -1 h: 11 o'clock of the day before") << at(2026, 3, 15, 0, 30) << -1 << 0 << "3/14/2026" << "11:30:7";
         QTest::newRow("31 Dec 23:00 +1 h: month 13, day 12") << at(2026, 12, 31, 23, 0) << 1 << 0 << "13/12/2027" << "0:0:7";
         QTest::newRow("1 Jan 00:10 -1 h: last year") << at(2027, 1, 1, 0, 10) << -1 << 0 << "12/31/2026" << "11:10:7";
-        QTest::newRow("30 Apr 23:30 +1 h: month end") << at(2026, 4, 30, 23, 30) << 1 << 0 << "5/1/2026" << "0:30:7";
         QTest::newRow("leap 28 Feb +1 h") << at(2028, 2, 28, 23, 0) << 1 << 0 << "2/29/2028" << "0:0:7";
-        QTest::newRow("leap 1 Mar -1 h") << at(2028, 3, 1, 0, 0) << -1 << 0 << "2/29/2028" << "11:0:7";
-        QTest::newRow("minutes borrow an hour") << at(2026, 6, 10, 9, 10) << 5 << -30 << "6/10/2026" << "13:40:7";
         QTest::newRow("+5:30 into the next month") << at(2026, 6, 30, 20, 45) << 5 << 30 << "7/1/2026" << "2:15:7";
     }
     void timeZoneShift()
@@ -268,7 +250,6 @@ private slots:
         QTest::newRow("both done") << QByteArray("1\n") << QByteArray("1\n") << 1;
         QTest::newRow("one running") << QByteArray("1\n") << QByteArray("0\n") << 0;
         QTest::newRow("upgrade failed") << QByteArray("2\n") << QByteArray("1\n") << 2;
-        QTest::newRow("update failed") << QByteArray("0\n") << QByteArray("2\n") << 2;
         QTest::newRow("NUL ends the text") << QByteArray("1\n\0\x7f", 4) << QByteArray("1\n") << 1;
         QTest::newRow("no line end: running") << QByteArray("1") << QByteArray("1") << 0;
         QTest::newRow("no bridge") << QByteArray() << QByteArray("2\n") << 1;
@@ -298,7 +279,6 @@ private slots:
         QTest::newRow("factory present") << "factory" << true;
         QTest::newRow("factory absent") << "factory" << false;
         QTest::newRow("qt_version present") << "qt_version" << true;
-        QTest::newRow("qt_version absent") << "qt_version" << false;
     }
     void markers()
     {
@@ -326,9 +306,7 @@ private slots:
         QTest::addColumn<bool>("threaded");
         QTest::addColumn<bool>("online");
         QTest::newRow("answer, inline") << QByteArray() << false << true;
-        QTest::newRow("answer, thread") << QByteArray() << true << true;
-        QTest::newRow("TTL in capitals") << journaling("ping") + "echo 'Reply from 127.0.0.1: bytes=1 time<1ms TTL=128'\n" << true << true;
-        QTest::newRow("silence, inline") << journaling("ping") << false << false;
+        QTest::newRow("TTL in capitals, thread") << journaling("ping") + "echo 'Reply from 127.0.0.1: bytes=1 time<1ms TTL=128'\n" << true << true;
         QTest::newRow("silence, thread") << journaling("ping") << true << false;
     }
     void reachability()
