@@ -74,7 +74,6 @@ QVector<Row> rows()
         {"bluetooth search", {cmd(0xC5, 3, 5)}, {"<F0000c503000000c8>"}, {"pushBluetoothFin()"}},
         {"bluetooth broadcast search", {cmd(0xC5, 4)}, {"<F0000c505000000ca>"}, {"pushBluetoothFinBroadCast()"}},
         {"bluetooth connect new", {cmd(0xC5, 0xB5)}, {"<F0000c5b50000007a>"}, {}},
-        {"bluetooth open new", {cmd(0xC5, 0xB7)}, {"<F0000c5b70000007c>"}, {}},
         {"bluetooth connect", {cmd(0xF0, 0xB6, 0, 0, 0, speaker)}, {"<F0000f0b6000000a6>"}, {"pushConnectResult(0,true)"}},
         {"bluetooth connect unknown", {cmd(0xF0, 0xB6, 0, 0, 0, summed(hex("112233445566")))}, {"<F0000f0b6000500ab>"}, {"pushConnectResult(0,false)"}},
         {"bluetooth disconnect", {cmd(0xF0, 0xB7, 0, 0, 0, speaker)}, {"<F0000f0b7000000a7>"}, {}},
@@ -109,8 +108,6 @@ QVector<Row> rows()
          {"<F0000f1bb00680014>", "\x03STUDIO-PC (OBS),192.168.1.20:5961;CAM-NORTH (PTZ1),192.168.1.31:5961;TABLET (Slides),192.168.1.45:5962;"},
          {R"#(pushNDISignalData(104,[{"addr":"192.168.1.20:5961","name":"STUDIO-PC (OBS)"},)#"
           R"#({"addr":"192.168.1.31:5961","name":"CAM-NORTH (PTZ1)"},{"addr":"192.168.1.45:5962","name":"TABLET (Slides)"}]))#"}},
-        {"scope (no answer)", {cmd(0xC7, 1, 2, 1, 3)}, {}, {}},
-        {"uvc style (no answer)", {cmd(0xC8, 0, 0, 1, 2)}, {}, {}},
         {"ptz support uvc 1", {cmd(0xC8, 3, 0)}, {"<F0000c803000f00da>"}, {"pushPTZStatus(1,1,1,1)"}},
         {"auto focus off", {cmd(0xC8, 4, 1, 1, 0)}, {"<F0000c804010100ce>"}, {"pushPTZAutoFocus(0)"}},
         {"view set", {cmd(0xC8, 4, 0, 2, 3)}, {"<F0000c804000203d1>"}, {"pushPTZView(3)"}},
