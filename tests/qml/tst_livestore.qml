@@ -86,6 +86,8 @@ TestCase {
         verify(Math.abs(store.recordStartMs - Date.now()) < 5000)
         fakeManage.uiproVideo.pushRecordingStatus(0)
         verify(!store.recording)
+        fakeManage.uiprocGetAudioShareData.updateVoise(1, 2, 3, 4, 5, 6, 7, 8, 9)
+        compare(store.levels, [1, 2, 3, 4, 5, 6, 7, 8, 9])
         compare(fakeManage.saved, [])
     }
 
@@ -113,21 +115,11 @@ TestCase {
         compare(store.inputPresent[3], false)
     }
 
-    function test_levelsInOrder() {
-        fakeManage.uiprocGetAudioShareData.updateVoise(1, 2, 3, 4, 5, 6, 7, 8, 9)
-        compare(store.levels, [1, 2, 3, 4, 5, 6, 7, 8, 9])
-    }
-
-    function test_startAppliesTheRememberedPip() {
-        store.loadSettings({ "pipModeOpen": 1, "pipModeSelect": 3 })
-        store.start()
-        compare(fakeManage.sent, ["pip 1 3", "init?", "formats?", "rec 1 3", "streams?", "ip?", "usb?"])
-    }
-
-    function test_settingsLoaded() {
+    function test_startAppliesTheRememberedSettings() {
         store.loadSettings({ "inputType": 1, "inputType2": 3, "pipModeOpen": 1, "pipModeSelect": 2, "recordStatus": 0 })
-        compare([store.programmeInput, store.pipInput, store.pipOn, store.pipLayout], [1, 3, true, 2])
         store.loadSettings({}) // missing keys keep what is there
-        compare(store.programmeInput, 1)
+        compare([store.programmeInput, store.pipInput, store.pipOn, store.pipLayout], [1, 3, true, 2])
+        store.start()
+        compare(fakeManage.sent, ["pip 1 2", "init?", "formats?", "rec 1 3", "streams?", "ip?", "usb?"])
     }
 }
