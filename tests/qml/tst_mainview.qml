@@ -22,6 +22,7 @@ TestCase {
         fake.pipOn = false
         fake.recording = false
         fake.linkAlive = true
+        fake.streams = [1, 0, 0, 0]
         findChild(view, "confirmDialog").visible = false
     }
 
@@ -68,7 +69,7 @@ TestCase {
         compare(fake.calls, ["stopRecording"])
     }
 
-    function test_statusLine() {
+    function test_statusLineAndTallyFrame() {
         compare(findChild(view, "streamChip0").mark, Style.onAir)
         compare(findChild(view, "streamChip1").mark, Style.off)
         compare(findChild(view, "ipChip").text, "192.168.0.100")
@@ -78,16 +79,12 @@ TestCase {
         verify(link.visible)
         compare(link.text, qsTr("Media service silent"))
         compare(link.mark, Style.attention)
-    }
-
-    function test_tallyFrameRedWhenOnAir() {
         var panel = findChild(view, "previewPanel")
         compare(panel.border.color, Style.onAir) // streaming on channel 1
         fake.streams = [0, 0, 0, 0]
         compare(panel.border.color, Style.outline)
         fake.recording = true
         compare(panel.border.color, Style.onAir)
-        fake.streams = [1, 0, 0, 0]
     }
 
     function test_metersClampTo40And80_data() {
