@@ -117,6 +117,7 @@ Rectangle {
             onRecordRequested: view.store.startRecording()
             onStopRecordRequested: view.confirmStopRecording()
             onPipToggled: view.store.setPip(on)
+            onOpenPage: pageHost.show(name)
         }
 
         // The way into every page: one touch here, one on the page's tile.

@@ -30,7 +30,8 @@ Rectangle {
         current = name
         return true
     }
-    function back() { current = current === "menu" ? "" : "menu" }
+    // A page reached from another page goes back there, the others to the menu.
+    function back() { current = current === "menu" ? "" : entry && entry.back ? entry.back : "menu" }
     function close() { current = "" }
 
     visible: isOpen
@@ -89,9 +90,10 @@ Rectangle {
             onLoaded: {
                 scroller.contentY = 0 // a new page starts at its top
                 item.objectName = host.current
-                if (host.current === "menu")
+                // The menu and pages that lead on to other pages open them here.
+                if (item.openPage)
                     item.openPage.connect(host.show)
-                else if (host.entry)
+                if (host.current !== "menu" && host.entry)
                     item.store = host.stores[host.entry.store]
             }
         }
@@ -132,5 +134,6 @@ Rectangle {
         onRecordRequested: host.recordRequested()
         onStopRecordRequested: host.stopRecordRequested()
         onPipToggled: host.pipToggled(on)
+        onOpenPage: host.show(name)
     }
 }

@@ -15,6 +15,7 @@ Grid {
     signal recordRequested()
     signal stopRecordRequested()
     signal pipToggled(bool on)
+    signal openPage(string name)    // a live action's own page
 
     columns: compact ? 3 : 1
     spacing: Style.gap
@@ -22,13 +23,13 @@ Grid {
     property real cellHeight: compact ? Style.touch : Style.touch * 1.3
 
     TouchButton {
-        objectName: "streamState"
+        objectName: "streamButton"
         width: panel.cellWidth
         height: panel.cellHeight
         label: panel.streaming ? qsTr("ON AIR") : qsTr("Stream off")
         detail: panel.streaming ? qsTr("%n channel(s) live", "", panel.liveChannels) : qsTr("No channel live")
         tally: panel.streaming ? Style.onAir : "transparent"
-        interactive: false
+        onClicked: panel.openPage("stream")
     }
     TouchButton {
         objectName: "recordButton"
