@@ -7,6 +7,7 @@
 #include "UiprocNetwork.h"
 #include "UiprocPublic.h"
 #include "UiprocVideo_Desktop.h"
+#include "UiproRtmp_Desktop.h"
 #include "UiproGetAudioShareData.h"
 #include "UiproGetImageShareData.h"
 
@@ -52,8 +53,9 @@ void registerQmlTypes()
     qmlRegisterType<UiprocPublic>("cs.UiprocPublic", 1, 0, "UiprocPublic_Desktop");
     qmlRegisterType<UiproGetAudioShareData>("xpose.UiproGetAudioShareData", 1, 0, "UiproGetAudioShareData_Desktop");
     qmlRegisterType<UiprocNetwork>("xpose.UiprocNetwork", 1, 0, "UiprocNetwork");
+    qmlRegisterType<UiproRtmp_Desktop>("xpose.UiproRtmpDesktop", 1, 0, "UiproRtmp_Desktop");
     // Registered as their classes land: UiproRecord_Desktop, UiproVersion_Desktop,
-    // UiproRtmp_Desktop, UiproBluetooth_Desktop.
+    // UiproBluetooth_Desktop.
 }
 
 bool isWatchStart(const QStringList &arguments)

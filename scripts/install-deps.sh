@@ -1,7 +1,8 @@
 #!/bin/sh
 # Installs the Debian 12 packages the build, the tests and the desktop run
 # need; does nothing when they are all present. net-tools, iproute2,
-# dnsmasq-base and busybox (udhcpc) serve the network test's private namespace.
+# dnsmasq-base and busybox (udhcpc) serve the network test's private namespace;
+# openssl makes the companion test's certificate.
 set -e
 PACKAGES="cmake g++ make pkg-config
 qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev qtmultimedia5-dev
@@ -12,7 +13,7 @@ qml-module-qtquick-virtualkeyboard qtvirtualkeyboard-plugin qml-module-qt-labs-f
 libavformat-dev libavcodec-dev libavutil-dev
 libgl1-mesa-dri fonts-dejavu-core fonts-wqy-microhei
 xvfb xauth ffmpeg procps strace ccache
-net-tools iproute2 dnsmasq-base busybox"
+net-tools iproute2 dnsmasq-base busybox openssl"
 missing=""
 for p in $PACKAGES; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing="$missing $p"

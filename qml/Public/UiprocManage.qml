@@ -7,6 +7,7 @@ import xpose.UiprocMain_Desktop 1.0
 import cs.UiprocPublic 1.0
 import xpose.UiproGetAudioShareData 1.0
 import xpose.UiprocNetwork 1.0
+import xpose.UiproRtmpDesktop 1.0
 
 // The one place that owns the native objects; views reach them through these properties.
 Item {
@@ -19,6 +20,7 @@ Item {
     property alias uiproMain: uiproMain_Desktop
     property alias uiproPublic: uiproPublic_Desktop
     property alias uiproNetwork: uiproNetwork_Desktop
+    property alias uiproRtmp: uiproRtmp_Desktop
 
     UiproGetImageShareData_Desktop { id: uiprocGetImageShareData_Desktop }
     UiproGetAudioShareData_Desktop { id: uiprocGetAudioShareData_Desktop }
@@ -27,4 +29,5 @@ Item {
     UiproMain_Desktop { id: uiproMain_Desktop }
     UiprocPublic_Desktop { id: uiproPublic_Desktop }
     UiprocNetwork { id: uiproNetwork_Desktop }
+    UiproRtmp_Desktop { id: uiproRtmp_Desktop }
 }

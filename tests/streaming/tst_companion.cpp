@@ -1,0 +1,164 @@
+// Calls to the companion streaming service against an HTTPS server of the
+// test's own on loopback (self-signed certificate): the request as it
+// arrives, and which replies count as success.
+#include "TestSysroot.h"
+#include "UiproRtmp_Desktop.h"
+
+#include <QNetworkAccessManager>
+#include <QSignalSpy>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
+#include <QTcpServer>
+#include <QtTest>
+
+// Waits until every request has finished: each takes its manager along.
+#define SETTLE(rtmp) QTRY_VERIFY_WITH_TIMEOUT((rtmp).findChildren<QNetworkAccessManager *>().isEmpty(), 15000)
+
+namespace {
+
+struct Answer
+{
+    int status = 200;
+    QByteArray body;
+    int delayMs = 0;
+};
+
+// One request per connection; the answer is chosen by path.
+class TlsServer : public QTcpServer
+{
+public:
+    QSslCertificate cert;
+    QSslKey key;
+    QMap<QByteArray, Answer> answers;
+    QList<QByteArray> requests; // head and body as received
+
+protected:
+    void incomingConnection(qintptr fd) override
+    {
+        auto *s = new QSslSocket(this);
+        s->setSocketDescriptor(fd);
+        s->setLocalCertificate(cert);
+        s->setPrivateKey(key);
+        auto *buf = new QByteArray;
+        connect(s, &QSslSocket::disconnected, s, [s, buf] { delete buf; s->deleteLater(); });
+        connect(s, &QSslSocket::readyRead, s, [this, s, buf] {
+            *buf += s->readAll();
+            const int end = buf->indexOf("\r\n\r\n");
+            if (end < 0)
+                return;
+            const QByteArray head = buf->left(end).toLower();
+            const int at = head.indexOf("content-length:");
+            const int len = at < 0 ? 0 : head.mid(at + 15, head.indexOf("\r\n", at) - at - 15).trimmed().toInt();
+            if (buf->size() < end + 4 + len)
+                return;
+            requests << *buf;
+            const Answer a = answers.value(buf->split(' ').value(1));
+            buf->clear();
+            QTimer::singleShot(a.delayMs, s, [s, a] {
+                s->write("HTTP/1.1 " + QByteArray::number(a.status) + " X\r\nContent-Type: application/json\r\nContent-Length: "
+                         + QByteArray::number(a.body.size()) + "\r\nConnection: close\r\n\r\n" + a.body);
+                s->disconnectFromHost();
+            });
+        });
+        s->startServerEncryption();
+    }
+};
+
+} // namespace
+
+class TestCompanion : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void reply_data();
+    void reply();
+    void successCarriesMostRecentRequestUrl();
+
+private:
+    QString url(const char *path) const { return QStringLiteral("https://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path); }
+
+    TestSysroot m_root;
+    QTemporaryDir m_dir;
+    TlsServer m_server;
+};
+
+void TestCompanion::initTestCase()
+{
+    QVERIFY(QSslSocket::supportsSsl());
+    QProcess openssl;
+    openssl.start("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=localhost",
+                              "-keyout", m_dir.filePath("key.pem"), "-out", m_dir.filePath("cert.pem")});
+    QVERIFY2(openssl.waitForFinished(60000) && openssl.exitCode() == 0, openssl.readAllStandardError().constData());
+    m_server.cert = QSslCertificate(TestSysroot::readFile(m_dir.filePath("cert.pem")));
+    m_server.key = QSslKey(TestSysroot::readFile(m_dir.filePath("key.pem")), QSsl::Rsa);
+    QVERIFY(!m_server.cert.isNull() && !m_server.key.isNull());
+    QVERIFY(m_server.listen(QHostAddress::LocalHost));
+}
+
+void TestCompanion::reply_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<bool>("success");
+    QTest::newRow("SUCCEED") << 200 << QByteArray(R"({"code":"SUCCEED","msg":"ok"})") << true;
+    QTest::newRow("lower case") << 200 << QByteArray(R"({"code":"succeed"})") << false;
+    QTest::newRow("numeric code") << 200 << QByteArray(R"({"code":200})") << false;
+    QTest::newRow("not JSON") << 200 << QByteArray("SUCCEED") << false;
+    QTest::newRow("HTTP 500 saying SUCCEED") << 500 << QByteArray(R"({"code":"SUCCEED"})") << false;
+    QTest::newRow("connection refused") << 0 << QByteArray() << false;
+}
+
+void TestCompanion::reply()
+{
+    QFETCH(int, status);
+    QFETCH(QByteArray, body);
+    QFETCH(bool, success);
+    m_server.answers["/api/Live/beginLive"] = {status, body, 0};
+    m_server.requests.clear();
+    QTcpServer closed;
+    QVERIFY(closed.listen(QHostAddress::LocalHost));
+    const QString target = status ? url("/api/Live/beginLive") : QStringLiteral("https://127.0.0.1:%1/api/Live/beginLive").arg(closed.serverPort());
+    closed.close();
+
+    UiproRtmp_Desktop rtmp;
+    QSignalSpy spy(&rtmp, &UiproRtmp_Desktop::sigSendHttpResult);
+    rtmp.httpRequestPostByUrl(target, "tok-1", "room 7&x=ü");
+    SETTLE(rtmp);
+    QCOMPARE(spy.count(), success ? 1 : 0);
+    if (spy.count())
+        QCOMPARE(spy.at(0), (QVariantList{target, true}));
+    if (!status)
+        return;
+    QCOMPARE(m_server.requests.size(), 1);
+    const QByteArray req = m_server.requests.at(0);
+    const QByteArray sent = QString("live_room_id=room 7&x=ü").toUtf8();
+    QVERIFY(req.startsWith("POST /api/Live/beginLive HTTP/1.1\r\n"));
+    QVERIFY(req.endsWith("\r\n\r\n" + sent));
+    const QByteArray head = req.toLower();
+    QVERIFY(head.contains("\r\ncontent-type: application/x-www-form-urlencoded\r\n"));
+    QVERIFY(head.contains("\r\ncontent-length: " + QByteArray::number(sent.size()) + "\r\n"));
+    QVERIFY(req.contains("\r\ncookie: api_token=tok-1\r\n"));
+}
+
+void TestCompanion::successCarriesMostRecentRequestUrl()
+{
+    m_server.answers["/api/Live/headBeat"] = {200, R"({"code":"SUCCEED"})", 400};
+    m_server.answers["/api/Live/endLive"] = {500, "", 0};
+    UiproRtmp_Desktop rtmp;
+    QSignalSpy spy(&rtmp, &UiproRtmp_Desktop::sigSendHttpResult);
+    for (int i = 0; i < 20; ++i) // a long show's heartbeats
+        rtmp.httpRequestPostByUrl(url("/api/Live/headBeat"), "t", "r");
+    SETTLE(rtmp);
+    QCOMPARE(spy.count(), 20);
+    spy.clear();
+    rtmp.httpRequestPostByUrl(url("/api/Live/headBeat"), "t", "r");
+    rtmp.httpRequestPostByUrl(url("/api/Live/endLive"), "t", "r");
+    SETTLE(rtmp);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0), (QVariantList{url("/api/Live/endLive"), true}));
+}
+
+QTEST_MAIN(TestCompanion)
+#include "tst_companion.moc"
