@@ -20,13 +20,27 @@ Window {
     // The board's store is made with the device start, after the first frame.
     property var board: null
     Component { id: boardStore; BoardStore {} }
+    MediaStore { id: media; manage: manage; live: live; board: window.board; currentVersion: system.about.version || "" }
+    // A start the disk refused, from wherever it was asked, is explained on
+    // the record page; the bridge firmware step after an upgrade reports on
+    // the upgrade page.
+    Connections {
+        target: live
+        function onDiskProbed(result) { if (!(result >= 0)) mainView.pages.show("record") }
+    }
+    Connections {
+        target: window.board
+        ignoreUnknownSignals: true
+        function onBridgeUpgradeChanged() { if (window.board.bridgeUpgrade === 0) mainView.pages.show("upgrade") }
+    }
 
     MainView {
         id: mainView
         objectName: "mainView"
         anchors.fill: parent
         store: live
-        pageStores: ({ live: live, system: system, board: board })
+        pageStores: ({ live: live, system: system, board: board, media: media })
+        upgrading: media.upgrading
         keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
     }
 

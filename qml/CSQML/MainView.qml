@@ -34,6 +34,8 @@ Rectangle {
         streams: view.store.streams
         recording: view.store.recording
         recordTime: view.recordTime
+        minutesLeft: view.pageStores.media ? view.pageStores.media.minutesLeft : -1
+        lowDisk: view.pageStores.media ? view.pageStores.media.lowDisk : false
         usbDisk: view.store.usbDisk
         ipAddress: view.store.ipAddress
         linkAlive: view.store.linkAlive

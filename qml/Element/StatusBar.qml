@@ -10,6 +10,8 @@ Rectangle {
     property var streams: [0, 0, 0, 0]
     property bool recording: false
     property string recordTime: ""
+    property int minutesLeft: -1      // on the USB disk while recording; -1 unknown
+    property bool lowDisk: false
     property int usbDisk: -1
     property string ipAddress: ""
     property bool linkAlive: false
@@ -35,6 +37,12 @@ Rectangle {
             objectName: "recordChip"
             text: bar.recording ? qsTr("REC %1").arg(bar.recordTime) : qsTr("REC off")
             mark: bar.recording ? Style.onAir : Style.off
+        }
+        StatusChip {
+            objectName: "recordLeftChip"
+            visible: bar.recording && bar.minutesLeft >= 0
+            text: qsTr("%n min left", "", bar.minutesLeft)
+            mark: bar.lowDisk ? Style.attention : Style.off
         }
         StatusChip {
             objectName: "usbChip"

@@ -63,9 +63,19 @@ QtObject {
         manage.uiproc.connectSetPIP(on ? 1 : 0, pipLayout)
         manage.uiproc.writeInitConfig({ "pipModeOpen": on ? 1 : 0 })
     }
+    // Every start goes through the USB disk probe, wherever it is asked
+    // for; the result is announced so the record page can say why a start
+    // was refused and how long the disk lasts. True when started.
+    signal diskProbed(double result)
     function startRecording() {
+        var recorder = manage.uiprocRecord
+        var r = recorder ? Number(recorder.check_is_usb_disk_ok_for_record()) : -1
+        diskProbed(r)
+        if (!(r >= 0))
+            return false
         manage.uiproc.connectRec(1, 1)
         manage.uiproc.writeInitConfig({ "recordStatus": 1, "recordStartTime": String(Date.now()) })
+        return true
     }
     function stopRecording() {
         manage.uiproc.connectRec(1, 2)

@@ -19,7 +19,11 @@ QtObject {
         { name: "datetime", title: qsTr("Date and time"), hint: qsTr("Clock, time zone"),
           store: "board", source: Qt.resolvedUrl("../CSQML/DateTimePage.qml") },
         { name: "system", title: qsTr("System"), hint: qsTr("Factory reset, switch off"),
-          store: "board", source: Qt.resolvedUrl("../CSQML/SystemPage.qml") }
+          store: "board", source: Qt.resolvedUrl("../CSQML/SystemPage.qml") },
+        { name: "record", title: qsTr("Record"), hint: qsTr("USB disk, recordings, playback"),
+          store: "media", source: Qt.resolvedUrl("../CSQML/RecordPage.qml") },
+        { name: "upgrade", title: qsTr("Software upgrade"), hint: qsTr("From a USB disk"),
+          store: "media", source: Qt.resolvedUrl("../CSQML/UpgradePage.qml") }
     ]
 
     function find(name) {

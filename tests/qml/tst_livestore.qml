@@ -36,6 +36,9 @@ TestCase {
             signal pushUSBInitiative(int status)
             signal pushLocalIP(string localIP)
         }
+        property QtObject uiprocRecord: QtObject {
+            function check_is_usb_disk_ok_for_record() { fakeManage.note("probe"); return 2048000 }
+        }
         property QtObject uiprocGetAudioShareData: QtObject {
             signal updateVoise(int a, int b, int c, int d, int e, int f, int g, int h, int i)
         }
@@ -67,7 +70,7 @@ TestCase {
         var before = Date.now()
         store.startRecording()
         store.stopRecording()
-        compare(fakeManage.sent, ["pip 1 2", "rec 1 1", "rec 1 2"])
+        compare(fakeManage.sent, ["pip 1 2", "probe", "rec 1 1", "rec 1 2"])
         compare(fakeManage.saved.length, 3)
         compare(fakeManage.saved[0], '{"pipModeOpen":1}')
         var started = JSON.parse(fakeManage.saved[1])

@@ -1,0 +1,157 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import "../Public"
+import "../CONTROLS"
+
+// Going live: the event in use, its platforms, the stream parameters and
+// the state of the four channels. Going live and stopping ask once.
+Column {
+    id: page
+    property var store
+    spacing: Style.gap
+    signal openPage(string name)
+    property alias confirm: confirm
+
+    onStoreChanged: if (store) store.refresh()
+
+    readonly property var livePlatforms: store ? store.platforms.filter(function (p) { return p.on }) : []
+
+    Item {
+        width: page.width
+        height: Style.touch
+        InfoRow {
+            objectName: "streamEvent"
+            anchors { left: parent.left; right: eventsButton.left; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
+            name: qsTr("Event")
+            value: page.store ? page.store.eventLabel(page.store.eventName) : ""
+        }
+        TouchButton {
+            id: eventsButton
+            objectName: "streamToEvents"
+            anchors.right: parent.right
+            width: Math.max(Style.touch * 2, page.width * 0.36)
+            height: parent.height
+            label: qsTr("Events")
+            detail: qsTr("Choose, create")
+            onClicked: page.openPage("events")
+        }
+    }
+
+    Item {
+        width: page.width
+        height: Math.max(Style.touch, logos.height)
+        Flow {
+            id: logos
+            objectName: "streamLogos"
+            anchors { left: parent.left; right: platformsButton.left; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
+            spacing: Style.gap
+            Repeater {
+                model: page.livePlatforms
+                PlatformLogo { name: modelData.name; size: Style.touch * 0.7 }
+            }
+            Text {
+                objectName: "streamNoPlatform"
+                visible: page.livePlatforms.length === 0
+                width: logos.width
+                text: qsTr("No platform switched on")
+                color: Style.attention
+                font.pixelSize: Style.fontSmall
+                wrapMode: Text.WordWrap
+            }
+        }
+        TouchButton {
+            id: platformsButton
+            objectName: "streamToPlatforms"
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            width: eventsButton.width
+            height: Style.touch
+            label: qsTr("Platforms")
+            detail: qsTr("Import, switch on")
+            onClicked: page.openPage("platforms")
+        }
+    }
+
+    ChoiceRow {
+        objectName: "streamModel"
+        width: page.width
+        caption: qsTr("Encoder settings")
+        namePrefix: "streamModel"
+        options: page.store ? page.store.models : []
+        current: page.store ? page.store.model : -1
+        onChosen: page.store.setParameters(code, page.store.resolution, page.store.bitrate)
+    }
+    ChoiceRow {
+        width: page.width
+        caption: qsTr("Resolution")
+        namePrefix: "streamResolution"
+        options: page.store ? page.store.resolutions : []
+        current: page.store ? page.store.resolution : -1
+        // The device picks its own resolution and bitrate by default.
+        active: page.store ? page.store.model !== 0 : false
+        onChosen: page.store.setParameters(page.store.model, code, page.store.bitrate)
+    }
+    ChoiceRow {
+        width: page.width
+        caption: qsTr("Bitrate")
+        namePrefix: "streamBitrate"
+        options: page.store ? page.store.bitrates : []
+        current: page.store ? page.store.bitrate : -1
+        active: page.store ? page.store.model !== 0 : false
+        onChosen: page.store.setParameters(page.store.model, page.store.resolution, code)
+    }
+
+    Row {
+        spacing: Style.gap
+        Repeater {
+            model: 4
+            ChannelState {
+                objectName: "streamChannel" + index
+                width: (page.width - 3 * Style.gap) / 4
+                channel: qsTr("CH%1").arg(index + 1)
+                phase: page.store ? page.store.channelState(index) : "off"
+            }
+        }
+    }
+
+    Text {
+        objectName: "streamRefusal"
+        width: page.width
+        visible: text !== ""
+        text: page.store ? page.store.refusal : ""
+        color: Style.attention
+        font.pixelSize: Style.fontSmall
+        wrapMode: Text.WordWrap
+    }
+
+    Row {
+        spacing: Style.gap
+        TouchButton {
+            objectName: "streamGoLive"
+            width: (page.width - Style.gap) / 2
+            height: Style.touch * 1.2
+            label: qsTr("Go live")
+            detail: qsTr("%n platform(s)", "", page.livePlatforms.length)
+            tally: Style.onAir
+            onClicked: confirm.ask(qsTr("Go live now to %n platform(s) of the event “%1”?", "", page.livePlatforms.length)
+                                   .arg(page.store.eventLabel(page.store.eventName)),
+                                   qsTr("Go live"), function () { page.store.goLive() })
+        }
+        TouchButton {
+            objectName: "streamStop"
+            width: (page.width - Style.gap) / 2
+            height: Style.touch * 1.2
+            label: qsTr("Stop streaming")
+            detail: page.store && page.store.streaming ? qsTr("On air now") : qsTr("Not live")
+            enabledState: page.store ? page.store.streaming || page.store.phase === "starting" || page.store.phase === "unconfirmed" : false
+            onClicked: confirm.ask(qsTr("Stop streaming on every channel now?"),
+                                   qsTr("Stop streaming"), function () { page.store.stop() })
+        }
+    }
+
+    ConfirmDialog {
+        id: confirm
+        objectName: "streamConfirm"
+        parent: page.Window.contentItem ? page.Window.contentItem : page
+        anchors.fill: parent
+    }
+}

@@ -1,0 +1,143 @@
+import QtQuick 2.15
+import QtTest 1.2
+import "qrc:/CSQML"
+
+// The record and upgrade pages on a fake store: refusals say why, stopping
+// and upgrading ask once, rename and playback reach the store, and the
+// store's state shows in words.
+Item {
+    id: root
+    width: 900
+    height: 2400
+
+    FakeMediaStore { id: fake }
+    Component { id: recordPage; RecordPage { width: root.width } }
+    Component { id: upgradePage; UpgradePage { width: root.width } }
+
+TestCase {
+    name: "RecordPages"
+    when: windowShown
+
+    function open(component) {
+        var page = createTemporaryObject(component, root)
+        page.store = fake
+        return page
+    }
+    function init() {
+        fake.calls = []
+        fake.recording = false
+        fake.diskCode = 1
+        fake.minutesLeft = -1
+        fake.upgrading = false
+        fake.upgradeDisk = 0
+        fake.bridgeUpgrade = -1
+        fake.recordings = [{ created: "2026/11/20 10:00:00", name: "talk", length: "00:42:07", resolution: "1920*1080", path: "/media/usb0/talk.mp4" }]
+        fake.images = [{ version: "1.1.0", kind: "test", file: "ZORVANE_ALPHA_1.1.0.img" },
+                       { version: "1.0.9", kind: "release", file: "ZORVANE_RELEASE_1.0.9.img" }]
+    }
+
+    function test_refusedStartSaysWhy_data() {
+        return [{ tag: "no disk", code: -1, text: "No USB disk" },
+                { tag: "unreadable", code: -2, text: "The USB disk cannot be read" },
+                { tag: "full", code: -3, text: "Less than 512 MB free on the USB disk" }]
+    }
+    function test_refusedStartSaysWhy(data) {
+        var page = open(recordPage)
+        compare(fake.calls, ["refreshRecordings", "probe"], "opening lists the disk and probes it")
+        fake.probeAnswer = data.code
+        mouseClick(findChild(page, "recordStartStop"))
+        compare(fake.calls[2], "startRecording")
+        compare(findChild(page, "recordMessage").text, qsTranslate("RecordPage", "Not started: %1.").arg(qsTranslate("RecordPage", data.text)))
+        compare(findChild(page, "recordLeft").value, qsTranslate("RecordPage", data.text))
+    }
+
+    function test_stopAsksOnce_data() {
+        return [{ tag: "confirmed", button: "confirmAction", calls: ["stopRecording"] },
+                { tag: "cancelled", button: "confirmCancel", calls: [] }]
+    }
+    function test_stopAsksOnce(data) {
+        fake.recording = true
+        fake.recordTime = "00:05:09"
+        fake.diskCode = 0
+        fake.minutesLeft = 7
+        var page = open(recordPage)
+        compare(fake.calls, ["refreshRecordings"], "no probe while recording: the timer does it")
+        compare(findChild(page, "recordStartStop").detail, qsTranslate("RecordPage", "Recording %1").arg("00:05:09"))
+        verify(findChild(page, "recordLowDisk").visible)
+        compare(findChild(page, "recordRate").value, qsTranslate("RecordPage", "%1 Mbit/s (1080p)").arg(8))
+        mouseClick(findChild(page, "recordStartStop"))
+        var dialog = findChild(root.parent, "recordConfirm")
+        verify(dialog.visible)
+        compare(dialog.actionText, qsTranslate("RecordPage", "Stop recording"))
+        mouseClick(findChild(dialog, data.button))
+        compare(fake.calls.slice(1), data.calls)
+    }
+
+    function test_rename_data() {
+        return [{ tag: "renamed", answer: "", editorOpen: false, message: "" },
+                { tag: "name taken", answer: "exists", editorOpen: true, message: "A recording with this name already exists." },
+                { tag: "disk refused", answer: "failed", editorOpen: true, message: "Could not rename the recording." }]
+    }
+    function test_rename(data) {
+        var page = open(recordPage)
+        compare(findChild(page, "recordDetail0").text, "00:42:07   1920×1080   2026/11/20 10:00:00")
+        mouseClick(findChild(page, "recordRename0"))
+        var field = findChild(page, "renameField")
+        verify(field.visible)
+        compare(field.text, "talk")
+        verify(field.input.activeFocus, "the keyboard comes up for it")
+        field.text = "final"
+        fake.renameAnswer = data.answer
+        mouseClick(findChild(page, "renameSave"))
+        compare(fake.calls.slice(2), ["rename /media/usb0/talk.mp4 final"])
+        compare(findChild(page, "renameEditor").visible, data.editorOpen)
+        compare(findChild(page, "renameMessage").text, data.message === "" ? "" : qsTranslate("RecordPage", data.message))
+    }
+
+    function test_playback() {
+        var page = open(recordPage)
+        mouseClick(findChild(page, "playPlay"))
+        compare(findChild(page, "playPlay").detail, qsTranslate("RecordPage", "Playing"))
+        mouseClick(findChild(page, "playPause"))
+        mouseClick(findChild(page, "playStop"))
+        fake.playbackEnded = true
+        compare(findChild(page, "playStop").detail, qsTranslate("RecordPage", "Playback ended"))
+        compare(fake.calls.slice(2), ["play", "pause", "stopPlayback"])
+    }
+
+    function test_upgradeAsksOnceThenWaits() {
+        var page = open(upgradePage)
+        compare(fake.calls, ["watchUpgradeDisk true"])
+        compare(findChild(page, "upgradeImage0").label, qsTranslate("UpgradePage", "Version %1").arg("1.1.0"))
+        compare(findChild(page, "upgradeImage0").detail, qsTranslate("UpgradePage", "test build"))
+        compare(findChild(page, "upgradeImage1").detail, qsTranslate("UpgradePage", "release"))
+        var start = findChild(page, "upgradeStart")
+        verify(!start.enabledState, "a version is chosen first")
+        mouseClick(findChild(page, "upgradeImage1"))
+        verify(start.enabledState)
+        mouseClick(start)
+        var dialog = findChild(root.parent, "upgradeConfirm")
+        verify(dialog.visible)
+        verify(dialog.question.indexOf("1.0.9") >= 0)
+        mouseClick(findChild(dialog, "confirmAction"))
+        compare(fake.calls, ["watchUpgradeDisk true", "startUpgrade ZORVANE_RELEASE_1.0.9.img"])
+        verify(findChild(page, "upgrading").visible)
+        verify(!start.visible)
+        fake.upgradeDisk = -1
+        fake.upgrading = false
+        verify(!start.enabledState, "no disk, no upgrade")
+    }
+
+    function test_bridgeMessages_data() {
+        var done = "Success! Upgrade Complete \nCurrent Version: "
+        return [{ tag: "running", state: 0, text: "Updating the HDMI input firmware… Do not switch off.", tail: "" },
+                { tag: "done", state: 1, text: done, tail: "2.4.0" },
+                { tag: "failed", state: 2, text: done, tail: "2.4.0\n" + qsTranslate("UpgradePage", "Hdmi Upgrade failed") }]
+    }
+    function test_bridgeMessages(data) {
+        fake.bridgeUpgrade = data.state
+        var page = open(upgradePage)
+        compare(findChild(page, "bridgeMessage").text, qsTranslate("UpgradePage", data.text) + data.tail)
+    }
+}
+}
