@@ -20,6 +20,7 @@ Window {
     // The board's store is made with the device start, after the first frame.
     property var board: null
     Component { id: boardStore; BoardStore {} }
+    StreamStore { id: stream; manage: manage; live: live }
     MediaStore { id: media; manage: manage; live: live; board: window.board; currentVersion: system.about.version || "" }
     // A start the disk refused, from wherever it was asked, is explained on
     // the record page; the bridge firmware step after an upgrade reports on
@@ -39,7 +40,7 @@ Window {
         objectName: "mainView"
         anchors.fill: parent
         store: live
-        pageStores: ({ live: live, system: system, board: board, media: media })
+        pageStores: ({ live: live, system: system, board: board, media: media, stream: stream })
         upgrading: media.upgrading
         keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
     }
@@ -121,6 +122,7 @@ Window {
         }
         live.loadSettings(settings)
         system.loadSettings(settings)
+        stream.loadSettings(settings)
         startSettings = settings
     }
 }

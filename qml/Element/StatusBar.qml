@@ -25,8 +25,16 @@ Rectangle {
         anchors { left: parent.left; leftMargin: Style.gap; right: clockText.left; rightMargin: Style.gap; top: parent.top }
         spacing: Style.gap * 2
 
+        // The four channels only while one is live; one mark otherwise.
+        readonly property bool streaming: bar.streams.some(function (s) { return s !== 0 })
+        StatusChip {
+            objectName: "streamOffChip"
+            visible: !marks.streaming
+            text: qsTr("Stream off")
+            mark: Style.off
+        }
         Repeater {
-            model: 4
+            model: marks.streaming ? 4 : 0
             StatusChip {
                 objectName: "streamChip" + index
                 text: qsTr("CH%1").arg(index + 1) + " " + (bar.streams[index] ? qsTr("live") : qsTr("off"))

@@ -23,13 +23,23 @@ QtObject {
         { name: "record", title: qsTr("Record"), hint: qsTr("USB disk, recordings, playback"),
           store: "media", source: Qt.resolvedUrl("../CSQML/RecordPage.qml") },
         { name: "upgrade", title: qsTr("Software upgrade"), hint: qsTr("From a USB disk"),
-          store: "media", source: Qt.resolvedUrl("../CSQML/UpgradePage.qml") }
+          store: "media", source: Qt.resolvedUrl("../CSQML/UpgradePage.qml") },
+        { name: "stream", title: qsTr("Streaming"), hint: qsTr("Event, platforms, go live"),
+          store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") }
+    ]
+    // Pages opened from another page (and back to it), not from the menu.
+    readonly property var sub: [
+        { name: "platforms", title: qsTr("Stream addresses"), hint: qsTr("Import, type, switch on"),
+          store: "stream", source: Qt.resolvedUrl("../CSQML/PlatformsPage.qml"), back: "stream" },
+        { name: "events", title: qsTr("Streaming events"), hint: qsTr("Create, choose, delete"),
+          store: "stream", source: Qt.resolvedUrl("../CSQML/EventsPage.qml"), back: "stream" }
     ]
 
     function find(name) {
-        for (var i = 0; i < all.length; ++i)
-            if (all[i].name === name)
-                return all[i]
+        var pages = all.concat(sub)
+        for (var i = 0; i < pages.length; ++i)
+            if (pages[i].name === name)
+                return pages[i]
         return null
     }
 }
