@@ -128,10 +128,14 @@ QString UiproRtmp_Desktop::read_rtmp_url_from_u_file()
     memset(buf, 0, sizeof buf);
     // A read at the end of the file leaves buf alone, so it ends holding the
     // last line. The head of an oversized file only, as for the import.
+    // Counted by hand: ftell is a system call per line. A piece with NUL
+    // bytes counts at least one, so the bound holds for any content.
+    qint64 consumed = 0;
     int printed = 0;
     int unprinted = 0;
-    while (ftell(fp) < kMaxImportBytes && fgets(buf, sizeof buf, fp)) {
+    while (consumed < kMaxImportBytes && fgets(buf, sizeof buf, fp)) {
         size_t len = strlen(buf);
+        consumed += qint64(qMax<size_t>(len, 1));
         if (len <= 6)
             continue;
         if (buf[len - 1] == '\n')
@@ -150,7 +154,7 @@ QString UiproRtmp_Desktop::read_rtmp_url_from_u_file()
         }
     }
     if (!feof(fp) && fgetc(fp) != EOF)
-        printf("rtmp set file: only the first %ld bytes read\n", ftell(fp) - 1);
+        printf("rtmp set file: only the first %lld bytes read\n", (long long)consumed);
     if (unprinted)
         printf("rtmp set file: %d more urls not printed\n", unprinted);
     fclose(fp);
