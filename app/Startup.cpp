@@ -10,6 +10,8 @@
 #include "UiproRtmp_Desktop.h"
 #include "UiproGetAudioShareData.h"
 #include "UiproGetImageShareData.h"
+#include "UiproRecord_Desktop.h"
+#include "UiproVersion_Desktop.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -53,9 +55,10 @@ void registerQmlTypes()
     qmlRegisterType<UiprocPublic>("cs.UiprocPublic", 1, 0, "UiprocPublic_Desktop");
     qmlRegisterType<UiproGetAudioShareData>("xpose.UiproGetAudioShareData", 1, 0, "UiproGetAudioShareData_Desktop");
     qmlRegisterType<UiprocNetwork>("xpose.UiprocNetwork", 1, 0, "UiprocNetwork");
+    qmlRegisterType<UiproRecord_Desktop>("xpose.UiproRecordDesktop", 1, 0, "UiproRecord_Desktop");
+    qmlRegisterType<UiproVersion_Desktop>("xpose.UiproVersionDesktop", 1, 0, "UiproVersion_Desktop");
     qmlRegisterType<UiproRtmp_Desktop>("xpose.UiproRtmpDesktop", 1, 0, "UiproRtmp_Desktop");
-    // Registered as their classes land: UiproRecord_Desktop, UiproVersion_Desktop,
-    // UiproBluetooth_Desktop.
+    // Registered as its class lands: UiproBluetooth_Desktop.
 }
 
 bool isWatchStart(const QStringList &arguments)

@@ -7,6 +7,8 @@ import xpose.UiprocMain_Desktop 1.0
 import cs.UiprocPublic 1.0
 import xpose.UiproGetAudioShareData 1.0
 import xpose.UiprocNetwork 1.0
+import xpose.UiproRecordDesktop 1.0
+import xpose.UiproVersionDesktop 1.0
 import xpose.UiproRtmpDesktop 1.0
 
 // The one place that owns the native objects; views reach them through these properties.
@@ -20,6 +22,8 @@ Item {
     property alias uiproMain: uiproMain_Desktop
     property alias uiproPublic: uiproPublic_Desktop
     property alias uiproNetwork: uiproNetwork_Desktop
+    property alias uiprocRecord: uiproRecord_Desktop
+    property alias uiprocVersion: uiproVersion_Desktop
     property alias uiproRtmp: uiproRtmp_Desktop
 
     UiproGetImageShareData_Desktop { id: uiprocGetImageShareData_Desktop }
@@ -29,5 +33,7 @@ Item {
     UiproMain_Desktop { id: uiproMain_Desktop }
     UiprocPublic_Desktop { id: uiproPublic_Desktop }
     UiprocNetwork { id: uiproNetwork_Desktop }
+    UiproRecord_Desktop { id: uiproRecord_Desktop }
+    UiproVersion_Desktop { id: uiproVersion_Desktop }
     UiproRtmp_Desktop { id: uiproRtmp_Desktop }
 }
