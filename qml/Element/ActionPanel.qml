@@ -40,7 +40,9 @@ Grid {
         label: panel.recording ? (panel.compact ? qsTr("Stop") : qsTr("Stop recording")) : qsTr("Record")
         detail: panel.recording ? (panel.compact ? qsTr("REC %1").arg(panel.recordTime) : panel.recordTime) : qsTr("Not recording")
         tally: panel.recording ? Style.onAir : "transparent"
-        onClicked: panel.recording ? panel.stopRecordRequested() : panel.recordRequested()
+        // Starting goes through the record page, which checks the disk and
+        // says why it refuses; stopping is asked once right here.
+        onClicked: panel.recording ? panel.stopRecordRequested() : panel.openPage("record")
     }
     TouchButton {
         objectName: "pipButton"

@@ -52,9 +52,11 @@ TestCase {
         compare(fake.calls, ["pip 3", "setPip false"])
     }
 
-    function test_recordStartsAtOnceButStopAsksFirst() {
+    function test_recordOpensItsPageAndStopAsksFirst() {
         mouseClick(findChild(view, "recordButton"))
-        compare(fake.calls, ["startRecording"])
+        compare(fake.calls, [])
+        compare(findChild(view, "pageHost").current, "record")
+        findChild(view, "pageHost").close()
         fake.recording = true
         fake.calls = []
         mouseClick(findChild(view, "recordButton"))
