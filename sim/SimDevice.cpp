@@ -448,16 +448,21 @@ QVector<Report> Device::onRecord(const model_Protocoldata &c)
             QByteArray base = m_state.recordName;
             if (base.isEmpty())
                 base = QDateTime::currentDateTime().toString(QStringLiteral("'CS_'yyyyMMdd_hhmmss")).toLatin1();
-            m_state.recordFile = QStringLiteral("/media/usb0/CSRecord/") + QString::fromLatin1(base) + QStringLiteral(".mp4");
+            // Directly on the disk, where the front end lists recordings.
+            m_state.recordFile = QStringLiteral("/media/usb0/") + QString::fromLatin1(base) + QStringLiteral(".mp4");
             m_state.recording = true;
+            m_state.recordStartMs = QDateTime::currentMSecsSinceEpoch();
             qCInfo(lcSim).noquote() << "recording to" << m_state.recordFile;
         }
         break;
     case 0:
     case 2:
-        if (m_state.recording)
+        if (m_state.recording) {
             qCInfo(lcSim).noquote() << "recording stopped";
-        m_state.recording = false;
+            m_state.recording = false;
+            if (m_recordingSink)
+                m_recordingSink(m_state.recordFile, QDateTime::currentMSecsSinceEpoch() - m_state.recordStartMs);
+        }
         break;
     case 3:
         break;

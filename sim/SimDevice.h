@@ -6,8 +6,11 @@
 #include "model_Protocoldata.h"
 
 #include <QList>
+#include <QString>
 #include <QPair>
 #include <QVector>
+
+#include <functional>
 
 namespace Sim {
 
@@ -34,6 +37,11 @@ public:
     model_Protocoldata usbDisk(bool present);
     model_Protocoldata streamStatus(int channel, int status);
     model_Protocoldata typeC(int status);
+
+    // Called when a recording ends with its device path and the time it
+    // ran; the caller writes the file (the device itself does no I/O).
+    using RecordingSink = std::function<void(const QString &devicePath, qint64 elapsedMs)>;
+    void setRecordingSink(RecordingSink sink) { m_recordingSink = std::move(sink); }
 
     DeviceState &state() { return m_state; }
     const DeviceState &state() const { return m_state; }
@@ -117,6 +125,7 @@ private:
     BluetoothDevice *findBluetooth(QVector<BluetoothDevice> &list, const QByteArray &macBlock);
 
     DeviceState m_state;
+    RecordingSink m_recordingSink;
 };
 
 // Time a Bluetooth search takes before its end is reported.

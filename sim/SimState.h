@@ -33,6 +33,7 @@ struct DeviceState
     bool recording = false;
     QString recordFile;    // full path of the current or last recording
     QByteArray recordName; // name requested by the front end, "" for an automatic one
+    qint64 recordStartMs = 0; // wall clock when the recording started
 
     std::array<uchar, kStreamChannels> stream{};    // 1 = on air
     std::array<QByteArray, kStreamChannels> streamAddress;

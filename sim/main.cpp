@@ -1,6 +1,8 @@
 // cs-mediasim: plays the device's media service on a desktop so that the
 // real front end can run against it.
 #include "LogCategories.h"
+#include "Mp4File.h"
+#include "Platform.h"
 #include "SimDevice.h"
 #include "SimMedia.h"
 #include "SimScript.h"
@@ -10,6 +12,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QSocketNotifier>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <csignal>
@@ -142,6 +145,18 @@ int main(int argc, char **argv)
     sigaction(SIGINT, &sa, nullptr);
 
     Sim::Device device;
+    // A stopped recording leaves a real MP4 of its length on the disk, written
+    // off the socket's thread.
+    device.setRecordingSink([](const QString &devicePath, qint64 elapsedMs) {
+        const QString file = Platform::path(devicePath);
+        QThreadPool::globalInstance()->start([file, elapsedMs] {
+            QString why;
+            if (Sim::writeMp4(file, Sim::recordingSpec(elapsedMs), &why))
+                qCInfo(lcSim).noquote() << "recording written:" << file;
+            else
+                qCWarning(lcSim).noquote() << "recording not written:" << file << why;
+        });
+    });
     Sim::Server server(&device);
     server.setVerbose(p.isSet(verboseOpt));
     if (!server.start(port, listenPort))
