@@ -22,6 +22,7 @@ Column {
 
     function pad(n) { return n < 10 ? "0" + n : "" + n }
     readonly property int firstYear: new Date().getFullYear()
+    property int wantedDay: 0
     function daysIn(yearIndex, monthIndex) { return new Date(firstYear + yearIndex, monthIndex + 1, 0).getDate() }
 
     // "in 2 h 5 min", "started", or no start time at all.
@@ -44,7 +45,8 @@ Column {
         var t = new Date(Date.now() + 24 * 3600 * 1000)
         year.currentIndex = t.getFullYear() - firstYear
         month.currentIndex = t.getMonth()
-        day.currentIndex = t.getDate() - 1
+        wantedDay = t.getDate() - 1
+        day.currentIndex = wantedDay
         hour.currentIndex = t.getHours()
         minute.currentIndex = 0
     }
@@ -85,6 +87,7 @@ Column {
             model: 6
             fontSize: Style.fontNormal
             format: function (i) { return "" + (page.firstYear + i) }
+            tumbler.wrap: false   // years run one way
         }
         Wheel {
             id: month
@@ -101,6 +104,9 @@ Column {
             caption: qsTr("Day")
             model: page.daysIn(year.currentIndex, month.currentIndex)
             format: function (i) { return page.pad(i + 1) }
+            // A shorter month keeps the chosen day where it can.
+            onModelChanged: currentIndex = Math.min(page.wantedDay, model - 1)
+            onMovingChanged: if (!moving) page.wantedDay = currentIndex
         }
         Wheel {
             id: hour

@@ -60,9 +60,14 @@ Column {
             objectName: "platformGroup_" + modelData
             property string platform: modelData
             spacing: Style.gap
-            PlatformLogo { name: group.platform; size: Style.touch * 0.7 }
+            // One width for every badge, so the addresses line up.
+            Item {
+                width: Style.touch * 1.3
+                height: badge.height
+                PlatformLogo { id: badge; anchors.horizontalCenter: parent.horizontalCenter; name: group.platform; size: Style.touch * 0.7 }
+            }
             Column {
-                width: page.width - Style.touch * 0.7 - Style.gap
+                width: page.width - Style.touch * 1.3 - Style.gap
                 spacing: Style.gap / 2
                 Repeater {
                     model: page.draft.filter(function (p) { return p.name === group.platform })

@@ -3,8 +3,9 @@ import QtQuick.Window 2.15
 import "../Public"
 import "../CONTROLS"
 
-// Going live: the event in use, its platforms, the stream parameters and
-// the state of the four channels. Going live and stopping ask once.
+// Going live: the state of the four channels and the live actions first,
+// then the event in use, its platforms and the stream parameters. Going
+// live and stopping ask once.
 Column {
     id: page
     property var store
@@ -15,6 +16,55 @@ Column {
     onStoreChanged: if (store) store.refresh()
 
     readonly property var livePlatforms: store ? store.platforms.filter(function (p) { return p.on }) : []
+
+    Row {
+        spacing: Style.gap
+        Repeater {
+            model: 4
+            ChannelState {
+                objectName: "streamChannel" + index
+                width: (page.width - 3 * Style.gap) / 4
+                height: Style.touch * 0.8   // a state, not a target
+                channel: qsTr("CH%1").arg(index + 1)
+                phase: page.store ? page.store.channelState(index) : "off"
+            }
+        }
+    }
+
+    Text {
+        objectName: "streamRefusal"
+        width: page.width
+        visible: text !== ""
+        text: page.store ? page.store.refusal : ""
+        color: Style.attention
+        font.pixelSize: Style.fontSmall
+        wrapMode: Text.WordWrap
+    }
+
+    Row {
+        spacing: Style.gap
+        TouchButton {
+            objectName: "streamGoLive"
+            width: (page.width - Style.gap) / 2
+            height: Style.touch * 1.2
+            label: qsTr("Go live")
+            detail: qsTr("%n platform(s)", "", page.livePlatforms.length)
+            tally: Style.onAir
+            onClicked: confirm.ask(qsTr("Go live now to %n platform(s) of the event “%1”?", "", page.livePlatforms.length)
+                                   .arg(page.store.eventLabel(page.store.eventName)),
+                                   qsTr("Go live"), function () { page.store.goLive() })
+        }
+        TouchButton {
+            objectName: "streamStop"
+            width: (page.width - Style.gap) / 2
+            height: Style.touch * 1.2
+            label: qsTr("Stop streaming")
+            detail: page.store && page.store.streaming ? qsTr("On air now") : qsTr("Not live")
+            enabledState: page.store ? page.store.streaming || page.store.phase === "starting" || page.store.phase === "unconfirmed" : false
+            onClicked: confirm.ask(qsTr("Stop streaming on every channel now?"),
+                                   qsTr("Stop streaming"), function () { page.store.stop() })
+        }
+    }
 
     Item {
         width: page.width
@@ -98,54 +148,6 @@ Column {
         current: page.store ? page.store.bitrate : -1
         active: page.store ? page.store.model !== 0 : false
         onChosen: page.store.setParameters(page.store.model, page.store.resolution, code)
-    }
-
-    Row {
-        spacing: Style.gap
-        Repeater {
-            model: 4
-            ChannelState {
-                objectName: "streamChannel" + index
-                width: (page.width - 3 * Style.gap) / 4
-                channel: qsTr("CH%1").arg(index + 1)
-                phase: page.store ? page.store.channelState(index) : "off"
-            }
-        }
-    }
-
-    Text {
-        objectName: "streamRefusal"
-        width: page.width
-        visible: text !== ""
-        text: page.store ? page.store.refusal : ""
-        color: Style.attention
-        font.pixelSize: Style.fontSmall
-        wrapMode: Text.WordWrap
-    }
-
-    Row {
-        spacing: Style.gap
-        TouchButton {
-            objectName: "streamGoLive"
-            width: (page.width - Style.gap) / 2
-            height: Style.touch * 1.2
-            label: qsTr("Go live")
-            detail: qsTr("%n platform(s)", "", page.livePlatforms.length)
-            tally: Style.onAir
-            onClicked: confirm.ask(qsTr("Go live now to %n platform(s) of the event “%1”?", "", page.livePlatforms.length)
-                                   .arg(page.store.eventLabel(page.store.eventName)),
-                                   qsTr("Go live"), function () { page.store.goLive() })
-        }
-        TouchButton {
-            objectName: "streamStop"
-            width: (page.width - Style.gap) / 2
-            height: Style.touch * 1.2
-            label: qsTr("Stop streaming")
-            detail: page.store && page.store.streaming ? qsTr("On air now") : qsTr("Not live")
-            enabledState: page.store ? page.store.streaming || page.store.phase === "starting" || page.store.phase === "unconfirmed" : false
-            onClicked: confirm.ask(qsTr("Stop streaming on every channel now?"),
-                                   qsTr("Stop streaming"), function () { page.store.stop() })
-        }
     }
 
     ConfirmDialog {

@@ -239,7 +239,7 @@ QtObject {
         else if (name.length > 64)
             refusal = qsTr("An event name has at most 64 characters.")
         else if (/[\/\\\x00-\x1f]/.test(name))
-            refusal = qsTr("An event name cannot hold / or \\.")
+            refusal = qsTr("An event name cannot hold a slash or a backslash.")
         else if (!(startMs > Date.now()))
             refusal = qsTr("The start time has passed. Choose a later one.")
         else if (!rtmp)

@@ -245,6 +245,36 @@
     </message>
 </context>
 <context>
+    <name>ChannelState</name>
+    <message>
+        <source>Live</source>
+        <translation>直播中</translation>
+    </message>
+    <message>
+        <source>Starting…</source>
+        <translation>启动中…</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>未确认</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>停止中…</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceRow</name>
+    <message>
+        <source>Selected</source>
+        <translation>已选</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -327,6 +357,85 @@
     <message>
         <source>A change of orientation is used at the next start.</source>
         <translation>更改方向在下次启动时生效。</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>No start time</source>
+        <translation>无开始时间</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>已开始</translation>
+    </message>
+    <message>
+        <source>in %1 d %2 h</source>
+        <translation>%1 天 %2 小时后</translation>
+    </message>
+    <message>
+        <source>in %1 h %2 min</source>
+        <translation>%1 小时 %2 分钟后</translation>
+    </message>
+    <message>
+        <source>in %1 min</source>
+        <translation>%1 分钟后</translation>
+    </message>
+    <message>
+        <source>New event</source>
+        <translation>新建活动</translation>
+    </message>
+    <message>
+        <source>Name, e.g. Sunday service</source>
+        <translation>名称，例如 周日礼拜</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>时</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>Create event</source>
+        <translation>创建活动</translation>
+    </message>
+    <message>
+        <source>Events, latest first</source>
+        <translation>活动（最晚的在前）</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Delete the event “%1” with its addresses and settings?</source>
+        <translation>删除活动“%1”及其地址和设置？</translation>
+    </message>
+    <message>
+        <source>Delete event</source>
+        <translation>删除活动</translation>
     </message>
 </context>
 <context>
@@ -640,6 +749,93 @@
         <source>System</source>
         <translation>系统</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation>录制</translation>
+    </message>
+    <message>
+        <source>USB disk, recordings, playback</source>
+        <translation>U 盘、录像、回放</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>New software from a USB disk</source>
+        <translation>从 U 盘安装新软件</translation>
+    </message>
+    <message>
+        <source>Streaming</source>
+        <translation>推流</translation>
+    </message>
+    <message>
+        <source>Event, platforms, go live</source>
+        <translation>活动、平台、开始直播</translation>
+    </message>
+    <message>
+        <source>Stream addresses</source>
+        <translation>推流地址</translation>
+    </message>
+    <message>
+        <source>Import, type, switch on</source>
+        <translation>导入、输入、启用</translation>
+    </message>
+    <message>
+        <source>Streaming events</source>
+        <translation>直播活动</translation>
+    </message>
+    <message>
+        <source>Create, choose, delete</source>
+        <translation>创建、选择、删除</translation>
+    </message>
+</context>
+<context>
+    <name>PlatformsPage</name>
+    <message>
+        <source>Event</source>
+        <translation>活动</translation>
+    </message>
+    <message>
+        <source>Import again</source>
+        <translation>重新导入</translation>
+    </message>
+    <message>
+        <source>USB disk, companion app</source>
+        <translation>U盘、手机应用</translation>
+    </message>
+    <message>
+        <source>No stream addresses yet. Put rtmp.ini (one address a line) on a USB disk, or type an address below.</source>
+        <translation>还没有推流地址。请将 rtmp.ini（每行一个地址）放到U盘上，或在下方输入地址。</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Streams to it</source>
+        <translation>推流到此</translation>
+    </message>
+    <message>
+        <source>Touch to switch on</source>
+        <translation>点击启用</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Add an address</source>
+        <translation>添加地址</translation>
+    </message>
+    <message>
+        <source>Add and switch on</source>
+        <translation>添加并启用</translation>
+    </message>
 </context>
 <context>
     <name>PreviewPanel</name>
@@ -654,6 +850,157 @@
     <message>
         <source>No preview from the media service</source>
         <translation>媒体服务无预览画面</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPage</name>
+    <message>
+        <source>No USB disk</source>
+        <translation>没有 U 盘</translation>
+    </message>
+    <message>
+        <source>The USB disk cannot be read</source>
+        <translation>U 盘无法读取</translation>
+    </message>
+    <message>
+        <source>Less than 512 MB free on the USB disk</source>
+        <translation>U 盘剩余空间不足 512 MB</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>请输入名称。</translation>
+    </message>
+    <message>
+        <source>A name has at most 64 characters.</source>
+        <translation>名称最多 64 个字符。</translation>
+    </message>
+    <message>
+        <source>A recording with this name already exists.</source>
+        <translation>已有同名录像。</translation>
+    </message>
+    <message>
+        <source>Could not rename the recording.</source>
+        <translation>无法重命名该录像。</translation>
+    </message>
+    <message>
+        <source>Stop the recording now?</source>
+        <translation>现在停止录制吗？</translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation>停止录制</translation>
+    </message>
+    <message>
+        <source>Start recording</source>
+        <translation>开始录制</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>录制中 %1</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>未录制</translation>
+    </message>
+    <message>
+        <source>Not started: %1.</source>
+        <translation>未开始：%1。</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Time left on the disk</source>
+        <translation>磁盘剩余时间</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>尚未知</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>约 %n 分钟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>about %1 h %2 min</source>
+        <translation>约 %1 小时 %2 分钟</translation>
+    </message>
+    <message>
+        <source>Worked out at</source>
+        <translation>按此码率估算</translation>
+    </message>
+    <message>
+        <source>%1 Mbit/s (1080p)</source>
+        <translation>%1 Mbit/s (1080p)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Disk nearly full: less than %n minute(s) left</source>
+        <translation>
+            <numerusform>磁盘快满：剩余不到 %n 分钟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recordings on the USB disk</source>
+        <translation>U 盘上的录像</translation>
+    </message>
+    <message>
+        <source>Reading the disk…</source>
+        <translation>正在读取磁盘…</translation>
+    </message>
+    <message>
+        <source>No recordings.</source>
+        <translation>没有录像。</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>New name (the file keeps its .mp4 ending)</source>
+        <translation>新名称（文件保留 .mp4 后缀）</translation>
+    </message>
+    <message>
+        <source>Save name</source>
+        <translation>保存名称</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Playback on the device&apos;s output</source>
+        <translation>在设备输出上回放</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>播放中</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>已暂停</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Playback ended</source>
+        <translation>回放结束</translation>
+    </message>
+    <message>
+        <source>A name cannot contain %1 or start or end with a dot.</source>
+        <translation>名称不能包含 %1，也不能以点开头或结尾。</translation>
     </message>
 </context>
 <context>
@@ -698,6 +1045,166 @@
         <source>Media service silent</source>
         <translation>媒体服务无响应</translation>
     </message>
+    <message>
+        <source>Stream off</source>
+        <translation>未推流</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min left</source>
+        <translation>
+            <numerusform>剩 %n 分钟</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StreamPage</name>
+    <message>
+        <source>Event</source>
+        <translation>活动</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>活动</translation>
+    </message>
+    <message>
+        <source>Choose, create</source>
+        <translation>选择、创建</translation>
+    </message>
+    <message>
+        <source>No platform switched on</source>
+        <translation>未启用任何平台</translation>
+    </message>
+    <message>
+        <source>Platforms</source>
+        <translation>平台</translation>
+    </message>
+    <message>
+        <source>Import, switch on</source>
+        <translation>导入、启用</translation>
+    </message>
+    <message>
+        <source>Encoder settings</source>
+        <translation>编码设置</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>码率</translation>
+    </message>
+    <message>
+        <source>CH%1</source>
+        <translation>通道%1</translation>
+    </message>
+    <message>
+        <source>Go live</source>
+        <translation>开始直播</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n platform(s)</source>
+        <translation>
+            <numerusform>%n 个平台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Go live now to %n platform(s) of the event “%1”?</source>
+        <translation>
+            <numerusform>现在开始直播到活动“%1”的 %n 个平台？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop streaming</source>
+        <translation>停止推流</translation>
+    </message>
+    <message>
+        <source>On air now</source>
+        <translation>正在直播</translation>
+    </message>
+    <message>
+        <source>Not live</source>
+        <translation>未直播</translation>
+    </message>
+    <message>
+        <source>Stop streaming on every channel now?</source>
+        <translation>现在停止所有通道的推流？</translation>
+    </message>
+</context>
+<context>
+    <name>StreamStore</name>
+    <message>
+        <source>Device default</source>
+        <translation>设备默认</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>This address is listed already.</source>
+        <translation>该地址已在列表中。</translation>
+    </message>
+    <message>
+        <source>Type a stream address first.</source>
+        <translation>请先输入推流地址。</translation>
+    </message>
+    <message>
+        <source>This address is too long for the device (at most %1 characters).</source>
+        <translation>地址过长，设备最多接受 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>A stream address cannot hold spaces, commas or characters outside Latin-1.</source>
+        <translation>推流地址不能包含空格、逗号或 Latin-1 以外的字符。</translation>
+    </message>
+    <message>
+        <source>Give the event a name.</source>
+        <translation>请为活动命名。</translation>
+    </message>
+    <message>
+        <source>An event name has at most 64 characters.</source>
+        <translation>活动名称最多 64 个字符。</translation>
+    </message>
+    <message>
+        <source>The start time has passed. Choose a later one.</source>
+        <translation>开始时间已过，请选择更晚的时间。</translation>
+    </message>
+    <message>
+        <source>Events cannot be kept now.</source>
+        <translation>现在无法保存活动。</translation>
+    </message>
+    <message>
+        <source>An event named “%1” exists already. Choose another name.</source>
+        <translation>已有名为“%1”的活动，请换一个名称。</translation>
+    </message>
+    <message>
+        <source>Event “%1” created.</source>
+        <translation>已创建活动“%1”。</translation>
+    </message>
+    <message>
+        <source>Streaming is not available now.</source>
+        <translation>现在无法推流。</translation>
+    </message>
+    <message>
+        <source>No paltform is available,please select one paltform first</source>
+        <translation>没有可用的平台，请先选择一个平台</translation>
+    </message>
+    <message>
+        <source>At most %1 platforms can be live at once; switch some off.</source>
+        <translation>最多同时推流到 %1 个平台，请关闭一些。</translation>
+    </message>
+    <message>
+        <source>The addresses together are too long for the device (at most %1 characters).</source>
+        <translation>地址总长度超过设备上限（最多 %1 个字符）。</translation>
+    </message>
+    <message>
+        <source>An event name cannot hold a slash or a backslash.</source>
+        <translation>活动名称不能包含斜杠或反斜杠。</translation>
+    </message>
 </context>
 <context>
     <name>SystemPage</name>
@@ -728,6 +1235,91 @@
     <message>
         <source>Switch the device off now? Streams and recordings stop.</source>
         <translation>现在关闭设备？推流和录制将停止。</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePage</name>
+    <message>
+        <source>release</source>
+        <translation>正式版</translation>
+    </message>
+    <message>
+        <source>test build</source>
+        <translation>测试版</translation>
+    </message>
+    <message>
+        <source>Upgrade the software to version %1 (%2)? The device restarts. Do not switch it off or remove the USB disk.</source>
+        <translation>将软件升级到 %1 版（%2）？设备会重启。请勿关机或拔出 U 盘。</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>Updating the HDMI input firmware… Do not switch off.</source>
+        <translation>正在更新 HDMI 输入固件… 请勿关机。</translation>
+    </message>
+    <message>
+        <source>Success! Upgrade Complete 
+Current Version: </source>
+        <translation>升级成功！
+当前版本：</translation>
+    </message>
+    <message>
+        <source>Hdmi Upgrade failed</source>
+        <translation>HDMI 固件升级失败</translation>
+    </message>
+    <message>
+        <source>Upgrading...</source>
+        <translation>正在升级...</translation>
+    </message>
+    <message>
+        <source>The device restarts by itself. Do not switch it off or remove the USB disk.</source>
+        <translation>设备会自动重启。请勿关机或拔出 U 盘。</translation>
+    </message>
+    <message>
+        <source>USB disk</source>
+        <translation>U 盘</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>No USB disk</source>
+        <translation>没有 U 盘</translation>
+    </message>
+    <message>
+        <source>The USB disk cannot be read</source>
+        <translation>U 盘无法读取</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>检查中…</translation>
+    </message>
+    <message>
+        <source>No upgrade images on the USB disk. They are named ZORVANE_RELEASE_&lt;version&gt;.img or ZORVANE_ALPHA_&lt;version&gt;.img and lie at the top of the disk.</source>
+        <translation>U 盘上没有升级文件。文件名为 ZORVANE_RELEASE_&lt;版本&gt;.img 或 ZORVANE_ALPHA_&lt;版本&gt;.img，放在 U 盘根目录。</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Needs a USB disk</source>
+        <translation>需要 U 盘</translation>
+    </message>
+    <message>
+        <source>to version %1</source>
+        <translation>到版本 %1</translation>
+    </message>
+    <message>
+        <source>Choose a version first</source>
+        <translation>请先选择版本</translation>
     </message>
 </context>
 <context>

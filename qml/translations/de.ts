@@ -246,6 +246,36 @@
     </message>
 </context>
 <context>
+    <name>ChannelState</name>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Starting…</source>
+        <translation>Startet …</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>Nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Stoppt …</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceRow</name>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -328,6 +358,85 @@
     <message>
         <source>A change of orientation is used at the next start.</source>
         <translation>Eine geänderte Ausrichtung gilt ab dem nächsten Start.</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>No start time</source>
+        <translation>Keine Startzeit</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Begonnen</translation>
+    </message>
+    <message>
+        <source>in %1 d %2 h</source>
+        <translation>in %1 T %2 Std.</translation>
+    </message>
+    <message>
+        <source>in %1 h %2 min</source>
+        <translation>in %1 Std. %2 Min.</translation>
+    </message>
+    <message>
+        <source>in %1 min</source>
+        <translation>in %1 Min.</translation>
+    </message>
+    <message>
+        <source>New event</source>
+        <translation>Neues Event</translation>
+    </message>
+    <message>
+        <source>Name, e.g. Sunday service</source>
+        <translation>Name, z. B. Gottesdienst</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>Create event</source>
+        <translation>Event anlegen</translation>
+    </message>
+    <message>
+        <source>Events, latest first</source>
+        <translation>Events, späteste zuerst</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>In Verwendung</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Verwenden</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Delete the event “%1” with its addresses and settings?</source>
+        <translation>Event „%1“ mit seinen Adressen und Einstellungen löschen?</translation>
+    </message>
+    <message>
+        <source>Delete event</source>
+        <translation>Event löschen</translation>
     </message>
 </context>
 <context>
@@ -641,6 +750,93 @@
         <source>System</source>
         <translation>System</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>USB disk, recordings, playback</source>
+        <translation>USB-Datenträger, Aufnahmen, Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>New software from a USB disk</source>
+        <translation>Neue Software vom USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>Streaming</source>
+        <translation>Streaming</translation>
+    </message>
+    <message>
+        <source>Event, platforms, go live</source>
+        <translation>Event, Plattformen, live gehen</translation>
+    </message>
+    <message>
+        <source>Stream addresses</source>
+        <translation>Stream-Adressen</translation>
+    </message>
+    <message>
+        <source>Import, type, switch on</source>
+        <translation>Importieren, eingeben, einschalten</translation>
+    </message>
+    <message>
+        <source>Streaming events</source>
+        <translation>Streaming-Events</translation>
+    </message>
+    <message>
+        <source>Create, choose, delete</source>
+        <translation>Anlegen, wählen, löschen</translation>
+    </message>
+</context>
+<context>
+    <name>PlatformsPage</name>
+    <message>
+        <source>Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>Import again</source>
+        <translation>Neu importieren</translation>
+    </message>
+    <message>
+        <source>USB disk, companion app</source>
+        <translation>USB-Datenträger, Begleit-App</translation>
+    </message>
+    <message>
+        <source>No stream addresses yet. Put rtmp.ini (one address a line) on a USB disk, or type an address below.</source>
+        <translation>Noch keine Stream-Adressen. rtmp.ini (eine Adresse pro Zeile) auf einen USB-Datenträger legen oder unten eine Adresse eingeben.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Streams to it</source>
+        <translation>Wird gestreamt</translation>
+    </message>
+    <message>
+        <source>Touch to switch on</source>
+        <translation>Zum Einschalten tippen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Add an address</source>
+        <translation>Adresse hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add and switch on</source>
+        <translation>Hinzufügen und einschalten</translation>
+    </message>
 </context>
 <context>
     <name>PreviewPanel</name>
@@ -655,6 +851,159 @@
     <message>
         <source>No preview from the media service</source>
         <translation>Keine Vorschau vom Mediendienst</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPage</name>
+    <message>
+        <source>No USB disk</source>
+        <translation>Kein USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>The USB disk cannot be read</source>
+        <translation>USB-Datenträger nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Less than 512 MB free on the USB disk</source>
+        <translation>Weniger als 512 MB frei auf dem USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>Bitte einen Namen eingeben.</translation>
+    </message>
+    <message>
+        <source>A name has at most 64 characters.</source>
+        <translation>Ein Name hat höchstens 64 Zeichen.</translation>
+    </message>
+    <message>
+        <source>A recording with this name already exists.</source>
+        <translation>Eine Aufnahme mit diesem Namen gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Could not rename the recording.</source>
+        <translation>Umbenennen fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Stop the recording now?</source>
+        <translation>Aufnahme jetzt beenden?</translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation>Aufnahme beenden</translation>
+    </message>
+    <message>
+        <source>Start recording</source>
+        <translation>Aufnahme starten</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>Aufnahme läuft %1</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>Keine Aufnahme</translation>
+    </message>
+    <message>
+        <source>Not started: %1.</source>
+        <translation>Nicht gestartet: %1.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Time left on the disk</source>
+        <translation>Restzeit auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>noch unbekannt</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>etwa %n Minute</numerusform>
+            <numerusform>etwa %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>about %1 h %2 min</source>
+        <translation>etwa %1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Worked out at</source>
+        <translation>Berechnet mit</translation>
+    </message>
+    <message>
+        <source>%1 Mbit/s (1080p)</source>
+        <translation>%1 Mbit/s (1080p)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Disk nearly full: less than %n minute(s) left</source>
+        <translation>
+            <numerusform>Datenträger fast voll: weniger als %n Minute übrig</numerusform>
+            <numerusform>Datenträger fast voll: weniger als %n Minuten übrig</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recordings on the USB disk</source>
+        <translation>Aufnahmen auf dem USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>Reading the disk…</source>
+        <translation>Datenträger wird gelesen…</translation>
+    </message>
+    <message>
+        <source>No recordings.</source>
+        <translation>Keine Aufnahmen.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>New name (the file keeps its .mp4 ending)</source>
+        <translation>Neuer Name (die Endung .mp4 bleibt)</translation>
+    </message>
+    <message>
+        <source>Save name</source>
+        <translation>Name speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Playback on the device&apos;s output</source>
+        <translation>Wiedergabe am Geräteausgang</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Playback ended</source>
+        <translation>Wiedergabe beendet</translation>
+    </message>
+    <message>
+        <source>A name cannot contain %1 or start or end with a dot.</source>
+        <translation>Ein Name darf %1 nicht enthalten und nicht mit einem Punkt beginnen oder enden.</translation>
     </message>
 </context>
 <context>
@@ -699,6 +1048,169 @@
         <source>Media service silent</source>
         <translation>Mediendienst antwortet nicht</translation>
     </message>
+    <message>
+        <source>Stream off</source>
+        <translation>Stream aus</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min left</source>
+        <translation>
+            <numerusform>noch %n min</numerusform>
+            <numerusform>noch %n min</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StreamPage</name>
+    <message>
+        <source>Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Choose, create</source>
+        <translation>Wählen, anlegen</translation>
+    </message>
+    <message>
+        <source>No platform switched on</source>
+        <translation>Keine Plattform eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Platforms</source>
+        <translation>Plattformen</translation>
+    </message>
+    <message>
+        <source>Import, switch on</source>
+        <translation>Importieren, einschalten</translation>
+    </message>
+    <message>
+        <source>Encoder settings</source>
+        <translation>Encoder-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>CH%1</source>
+        <translation>K%1</translation>
+    </message>
+    <message>
+        <source>Go live</source>
+        <translation>Live gehen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n platform(s)</source>
+        <translation>
+            <numerusform>%n Plattform</numerusform>
+            <numerusform>%n Plattformen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Go live now to %n platform(s) of the event “%1”?</source>
+        <translation>
+            <numerusform>Jetzt live gehen auf %n Plattform von „%1“?</numerusform>
+            <numerusform>Jetzt live gehen auf %n Plattformen von „%1“?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop streaming</source>
+        <translation>Stream stoppen</translation>
+    </message>
+    <message>
+        <source>On air now</source>
+        <translation>Jetzt live</translation>
+    </message>
+    <message>
+        <source>Not live</source>
+        <translation>Nicht live</translation>
+    </message>
+    <message>
+        <source>Stop streaming on every channel now?</source>
+        <translation>Jetzt auf allen Kanälen das Streaming stoppen?</translation>
+    </message>
+</context>
+<context>
+    <name>StreamStore</name>
+    <message>
+        <source>Device default</source>
+        <translation>Gerätestandard</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>Aktuell</translation>
+    </message>
+    <message>
+        <source>This address is listed already.</source>
+        <translation>Diese Adresse ist schon in der Liste.</translation>
+    </message>
+    <message>
+        <source>Type a stream address first.</source>
+        <translation>Bitte zuerst eine Stream-Adresse eingeben.</translation>
+    </message>
+    <message>
+        <source>This address is too long for the device (at most %1 characters).</source>
+        <translation>Adresse zu lang für das Gerät (höchstens %1 Zeichen).</translation>
+    </message>
+    <message>
+        <source>A stream address cannot hold spaces, commas or characters outside Latin-1.</source>
+        <translation>Eine Stream-Adresse darf keine Leerzeichen, Kommas oder Zeichen außerhalb von Latin-1 enthalten.</translation>
+    </message>
+    <message>
+        <source>Give the event a name.</source>
+        <translation>Bitte dem Event einen Namen geben.</translation>
+    </message>
+    <message>
+        <source>An event name has at most 64 characters.</source>
+        <translation>Ein Event-Name hat höchstens 64 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The start time has passed. Choose a later one.</source>
+        <translation>Die Startzeit ist vorbei. Bitte eine spätere wählen.</translation>
+    </message>
+    <message>
+        <source>Events cannot be kept now.</source>
+        <translation>Events können gerade nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>An event named “%1” exists already. Choose another name.</source>
+        <translation>Ein Event „%1“ gibt es schon. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>Event “%1” created.</source>
+        <translation>Event „%1“ angelegt.</translation>
+    </message>
+    <message>
+        <source>Streaming is not available now.</source>
+        <translation>Streaming ist gerade nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>No paltform is available,please select one paltform first</source>
+        <translation>Keine Plattform eingeschaltet. Bitte zuerst eine Plattform wählen.</translation>
+    </message>
+    <message>
+        <source>At most %1 platforms can be live at once; switch some off.</source>
+        <translation>Höchstens %1 Plattformen gleichzeitig live; bitte einige ausschalten.</translation>
+    </message>
+    <message>
+        <source>The addresses together are too long for the device (at most %1 characters).</source>
+        <translation>Die Adressen sind zusammen zu lang für das Gerät (höchstens %1 Zeichen).</translation>
+    </message>
+    <message>
+        <source>An event name cannot hold a slash or a backslash.</source>
+        <translation>Ein Event-Name darf keinen Schrägstrich oder Backslash enthalten.</translation>
+    </message>
 </context>
 <context>
     <name>SystemPage</name>
@@ -729,6 +1241,91 @@
     <message>
         <source>Switch the device off now? Streams and recordings stop.</source>
         <translation>Gerät jetzt ausschalten? Streams und Aufnahmen enden.</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePage</name>
+    <message>
+        <source>release</source>
+        <translation>Release</translation>
+    </message>
+    <message>
+        <source>test build</source>
+        <translation>Testversion</translation>
+    </message>
+    <message>
+        <source>Upgrade the software to version %1 (%2)? The device restarts. Do not switch it off or remove the USB disk.</source>
+        <translation>Software auf Version %1 (%2) aktualisieren? Das Gerät startet neu. Nicht ausschalten, USB-Datenträger nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Updating the HDMI input firmware… Do not switch off.</source>
+        <translation>HDMI-Eingangsfirmware wird aktualisiert… Nicht ausschalten.</translation>
+    </message>
+    <message>
+        <source>Success! Upgrade Complete 
+Current Version: </source>
+        <translation>Update erfolgreich abgeschlossen!
+Aktuelle Version: </translation>
+    </message>
+    <message>
+        <source>Hdmi Upgrade failed</source>
+        <translation>HDMI-Firmware-Update fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Upgrading...</source>
+        <translation>Update läuft...</translation>
+    </message>
+    <message>
+        <source>The device restarts by itself. Do not switch it off or remove the USB disk.</source>
+        <translation>Das Gerät startet von selbst neu. Nicht ausschalten, USB-Datenträger nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>USB disk</source>
+        <translation>USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>No USB disk</source>
+        <translation>Kein USB-Datenträger</translation>
+    </message>
+    <message>
+        <source>The USB disk cannot be read</source>
+        <translation>USB-Datenträger nicht lesbar</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>wird geprüft…</translation>
+    </message>
+    <message>
+        <source>No upgrade images on the USB disk. They are named ZORVANE_RELEASE_&lt;version&gt;.img or ZORVANE_ALPHA_&lt;version&gt;.img and lie at the top of the disk.</source>
+        <translation>Keine Update-Dateien auf dem USB-Datenträger. Sie heißen ZORVANE_RELEASE_&lt;Version&gt;.img oder ZORVANE_ALPHA_&lt;Version&gt;.img und liegen in der obersten Ebene.</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Gewählt</translation>
+    </message>
+    <message>
+        <source>Needs a USB disk</source>
+        <translation>USB-Datenträger nötig</translation>
+    </message>
+    <message>
+        <source>to version %1</source>
+        <translation>auf Version %1</translation>
+    </message>
+    <message>
+        <source>Choose a version first</source>
+        <translation>Zuerst eine Version wählen</translation>
     </message>
 </context>
 <context>

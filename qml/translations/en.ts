@@ -246,6 +246,36 @@
     </message>
 </context>
 <context>
+    <name>ChannelState</name>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Starting…</source>
+        <translation>Starting…</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>Not confirmed</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceRow</name>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -328,6 +358,85 @@
     <message>
         <source>A change of orientation is used at the next start.</source>
         <translation>A change of orientation is used at the next start.</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>No start time</source>
+        <translation>No start time</translation>
+    </message>
+    <message>
+        <source>Started</source>
+        <translation>Started</translation>
+    </message>
+    <message>
+        <source>in %1 d %2 h</source>
+        <translation>in %1 d %2 h</translation>
+    </message>
+    <message>
+        <source>in %1 h %2 min</source>
+        <translation>in %1 h %2 min</translation>
+    </message>
+    <message>
+        <source>in %1 min</source>
+        <translation>in %1 min</translation>
+    </message>
+    <message>
+        <source>New event</source>
+        <translation>New event</translation>
+    </message>
+    <message>
+        <source>Name, e.g. Sunday service</source>
+        <translation>Name, e.g. Sunday service</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Hour</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>Create event</source>
+        <translation>Create event</translation>
+    </message>
+    <message>
+        <source>Events, latest first</source>
+        <translation>Events, latest first</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>In use</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Use</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Delete the event “%1” with its addresses and settings?</source>
+        <translation>Delete the event “%1” with its addresses and settings?</translation>
+    </message>
+    <message>
+        <source>Delete event</source>
+        <translation>Delete event</translation>
     </message>
 </context>
 <context>
@@ -641,6 +750,93 @@
         <source>System</source>
         <translation>System</translation>
     </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>USB disk, recordings, playback</source>
+        <translation>USB disk, recordings, playback</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>New software from a USB disk</source>
+        <translation>New software from a USB disk</translation>
+    </message>
+    <message>
+        <source>Streaming</source>
+        <translation>Streaming</translation>
+    </message>
+    <message>
+        <source>Event, platforms, go live</source>
+        <translation>Event, platforms, go live</translation>
+    </message>
+    <message>
+        <source>Stream addresses</source>
+        <translation>Stream addresses</translation>
+    </message>
+    <message>
+        <source>Import, type, switch on</source>
+        <translation>Import, type, switch on</translation>
+    </message>
+    <message>
+        <source>Streaming events</source>
+        <translation>Streaming events</translation>
+    </message>
+    <message>
+        <source>Create, choose, delete</source>
+        <translation>Create, choose, delete</translation>
+    </message>
+</context>
+<context>
+    <name>PlatformsPage</name>
+    <message>
+        <source>Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>Import again</source>
+        <translation>Import again</translation>
+    </message>
+    <message>
+        <source>USB disk, companion app</source>
+        <translation>USB disk, companion app</translation>
+    </message>
+    <message>
+        <source>No stream addresses yet. Put rtmp.ini (one address a line) on a USB disk, or type an address below.</source>
+        <translation>No stream addresses yet. Put rtmp.ini (one address a line) on a USB disk, or type an address below.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Streams to it</source>
+        <translation>Streams to it</translation>
+    </message>
+    <message>
+        <source>Touch to switch on</source>
+        <translation>Touch to switch on</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Add an address</source>
+        <translation>Add an address</translation>
+    </message>
+    <message>
+        <source>Add and switch on</source>
+        <translation>Add and switch on</translation>
+    </message>
 </context>
 <context>
     <name>PreviewPanel</name>
@@ -655,6 +851,159 @@
     <message>
         <source>No preview from the media service</source>
         <translation>No preview from the media service</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPage</name>
+    <message>
+        <source>No USB disk</source>
+        <translation>No USB disk</translation>
+    </message>
+    <message>
+        <source>The USB disk cannot be read</source>
+        <translation>The USB disk cannot be read</translation>
+    </message>
+    <message>
+        <source>Less than 512 MB free on the USB disk</source>
+        <translation>Less than 512 MB free on the USB disk</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>Type a name.</translation>
+    </message>
+    <message>
+        <source>A name has at most 64 characters.</source>
+        <translation>A name has at most 64 characters.</translation>
+    </message>
+    <message>
+        <source>A recording with this name already exists.</source>
+        <translation>A recording with this name already exists.</translation>
+    </message>
+    <message>
+        <source>Could not rename the recording.</source>
+        <translation>Could not rename the recording.</translation>
+    </message>
+    <message>
+        <source>Stop the recording now?</source>
+        <translation>Stop the recording now?</translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation>Stop recording</translation>
+    </message>
+    <message>
+        <source>Start recording</source>
+        <translation>Start recording</translation>
+    </message>
+    <message>
+        <source>Recording %1</source>
+        <translation>Recording %1</translation>
+    </message>
+    <message>
+        <source>Not recording</source>
+        <translation>Not recording</translation>
+    </message>
+    <message>
+        <source>Not started: %1.</source>
+        <translation>Not started: %1.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Time left on the disk</source>
+        <translation>Time left on the disk</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>not known yet</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>about %n minute</numerusform>
+            <numerusform>about %n minutes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>about %1 h %2 min</source>
+        <translation>about %1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Worked out at</source>
+        <translation>Worked out at</translation>
+    </message>
+    <message>
+        <source>%1 Mbit/s (1080p)</source>
+        <translation>%1 Mbit/s (1080p)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Disk nearly full: less than %n minute(s) left</source>
+        <translation>
+            <numerusform>Disk nearly full: less than %n minute left</numerusform>
+            <numerusform>Disk nearly full: less than %n minutes left</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recordings on the USB disk</source>
+        <translation>Recordings on the USB disk</translation>
+    </message>
+    <message>
+        <source>Reading the disk…</source>
+        <translation>Reading the disk…</translation>
+    </message>
+    <message>
+        <source>No recordings.</source>
+        <translation>No recordings.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>New name (the file keeps its .mp4 ending)</source>
+        <translation>New name (the file keeps its .mp4 ending)</translation>
+    </message>
+    <message>
+        <source>Save name</source>
+        <translation>Save name</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Playback on the device&apos;s output</source>
+        <translation>Playback on the device&apos;s output</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Playing</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Paused</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Playback ended</source>
+        <translation>Playback ended</translation>
+    </message>
+    <message>
+        <source>A name cannot contain %1 or start or end with a dot.</source>
+        <translation>A name cannot contain %1 or start or end with a dot.</translation>
     </message>
 </context>
 <context>
@@ -699,6 +1048,169 @@
         <source>Media service silent</source>
         <translation>Media service silent</translation>
     </message>
+    <message>
+        <source>Stream off</source>
+        <translation>Stream off</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n min left</source>
+        <translation>
+            <numerusform>%n min left</numerusform>
+            <numerusform>%n min left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StreamPage</name>
+    <message>
+        <source>Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>Choose, create</source>
+        <translation>Choose, create</translation>
+    </message>
+    <message>
+        <source>No platform switched on</source>
+        <translation>No platform switched on</translation>
+    </message>
+    <message>
+        <source>Platforms</source>
+        <translation>Platforms</translation>
+    </message>
+    <message>
+        <source>Import, switch on</source>
+        <translation>Import, switch on</translation>
+    </message>
+    <message>
+        <source>Encoder settings</source>
+        <translation>Encoder settings</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>CH%1</source>
+        <translation>CH%1</translation>
+    </message>
+    <message>
+        <source>Go live</source>
+        <translation>Go live</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n platform(s)</source>
+        <translation>
+            <numerusform>%n platform(s)</numerusform>
+            <numerusform>%n platform(s)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Go live now to %n platform(s) of the event “%1”?</source>
+        <translation>
+            <numerusform>Go live now to %n platform(s) of the event “%1”?</numerusform>
+            <numerusform>Go live now to %n platform(s) of the event “%1”?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stop streaming</source>
+        <translation>Stop streaming</translation>
+    </message>
+    <message>
+        <source>On air now</source>
+        <translation>On air now</translation>
+    </message>
+    <message>
+        <source>Not live</source>
+        <translation>Not live</translation>
+    </message>
+    <message>
+        <source>Stop streaming on every channel now?</source>
+        <translation>Stop streaming on every channel now?</translation>
+    </message>
+</context>
+<context>
+    <name>StreamStore</name>
+    <message>
+        <source>Device default</source>
+        <translation>Device default</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>Current</translation>
+    </message>
+    <message>
+        <source>This address is listed already.</source>
+        <translation>This address is listed already.</translation>
+    </message>
+    <message>
+        <source>Type a stream address first.</source>
+        <translation>Type a stream address first.</translation>
+    </message>
+    <message>
+        <source>This address is too long for the device (at most %1 characters).</source>
+        <translation>This address is too long for the device (at most %1 characters).</translation>
+    </message>
+    <message>
+        <source>A stream address cannot hold spaces, commas or characters outside Latin-1.</source>
+        <translation>A stream address cannot hold spaces, commas or characters outside Latin-1.</translation>
+    </message>
+    <message>
+        <source>Give the event a name.</source>
+        <translation>Give the event a name.</translation>
+    </message>
+    <message>
+        <source>An event name has at most 64 characters.</source>
+        <translation>An event name has at most 64 characters.</translation>
+    </message>
+    <message>
+        <source>The start time has passed. Choose a later one.</source>
+        <translation>The start time has passed. Choose a later one.</translation>
+    </message>
+    <message>
+        <source>Events cannot be kept now.</source>
+        <translation>Events cannot be kept now.</translation>
+    </message>
+    <message>
+        <source>An event named “%1” exists already. Choose another name.</source>
+        <translation>An event named “%1” exists already. Choose another name.</translation>
+    </message>
+    <message>
+        <source>Event “%1” created.</source>
+        <translation>Event “%1” created.</translation>
+    </message>
+    <message>
+        <source>Streaming is not available now.</source>
+        <translation>Streaming is not available now.</translation>
+    </message>
+    <message>
+        <source>No paltform is available,please select one paltform first</source>
+        <translation>No paltform is available,please select one paltform first</translation>
+    </message>
+    <message>
+        <source>At most %1 platforms can be live at once; switch some off.</source>
+        <translation>At most %1 platforms can be live at once; switch some off.</translation>
+    </message>
+    <message>
+        <source>The addresses together are too long for the device (at most %1 characters).</source>
+        <translation>The addresses together are too long for the device (at most %1 characters).</translation>
+    </message>
+    <message>
+        <source>An event name cannot hold a slash or a backslash.</source>
+        <translation>An event name cannot hold a slash or a backslash.</translation>
+    </message>
 </context>
 <context>
     <name>SystemPage</name>
@@ -729,6 +1241,91 @@
     <message>
         <source>Switch the device off now? Streams and recordings stop.</source>
         <translation>Switch the device off now? Streams and recordings stop.</translation>
+    </message>
+</context>
+<context>
+    <name>UpgradePage</name>
+    <message>
+        <source>release</source>
+        <translation>release</translation>
+    </message>
+    <message>
+        <source>test build</source>
+        <translation>test build</translation>
+    </message>
+    <message>
+        <source>Upgrade the software to version %1 (%2)? The device restarts. Do not switch it off or remove the USB disk.</source>
+        <translation>Upgrade the software to version %1 (%2)? The device restarts. Do not switch it off or remove the USB disk.</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>Updating the HDMI input firmware… Do not switch off.</source>
+        <translation>Updating the HDMI input firmware… Do not switch off.</translation>
+    </message>
+    <message>
+        <source>Success! Upgrade Complete 
+Current Version: </source>
+        <translation>Success! Upgrade Complete 
+Current Version: </translation>
+    </message>
+    <message>
+        <source>Hdmi Upgrade failed</source>
+        <translation>Hdmi Upgrade failed</translation>
+    </message>
+    <message>
+        <source>Upgrading...</source>
+        <translation>Upgrading...</translation>
+    </message>
+    <message>
+        <source>The device restarts by itself. Do not switch it off or remove the USB disk.</source>
+        <translation>The device restarts by itself. Do not switch it off or remove the USB disk.</translation>
+    </message>
+    <message>
+        <source>USB disk</source>
+        <translation>USB disk</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>ready</translation>
+    </message>
+    <message>
+        <source>No USB disk</source>
+        <translation>No USB disk</translation>
+    </message>
+    <message>
+        <source>The USB disk cannot be read</source>
+        <translation>The USB disk cannot be read</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>checking…</translation>
+    </message>
+    <message>
+        <source>No upgrade images on the USB disk. They are named ZORVANE_RELEASE_&lt;version&gt;.img or ZORVANE_ALPHA_&lt;version&gt;.img and lie at the top of the disk.</source>
+        <translation>No upgrade images on the USB disk. They are named ZORVANE_RELEASE_&lt;version&gt;.img or ZORVANE_ALPHA_&lt;version&gt;.img and lie at the top of the disk.</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Chosen</translation>
+    </message>
+    <message>
+        <source>Needs a USB disk</source>
+        <translation>Needs a USB disk</translation>
+    </message>
+    <message>
+        <source>to version %1</source>
+        <translation>to version %1</translation>
+    </message>
+    <message>
+        <source>Choose a version first</source>
+        <translation>Choose a version first</translation>
     </message>
 </context>
 <context>

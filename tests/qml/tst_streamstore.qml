@@ -142,7 +142,7 @@ TestCase {
         return [{ tag: "free name", name: " Sunday ", start: tomorrow, made: true, refusal: "" },
                 { tag: "name taken", name: "Taken", start: tomorrow, made: false, refusal: "An event named “Taken” exists already. Choose another name." },
                 { tag: "past", name: "Late", start: Date.now() - 60000, made: false, refusal: "The start time has passed. Choose a later one." },
-                { tag: "slash would nest groups", name: "a/b", start: tomorrow, made: false, refusal: "An event name cannot hold / or \\." }]
+                { tag: "slash would nest groups", name: "a/b", start: tomorrow, made: false, refusal: "An event name cannot hold a slash or a backslash." }]
     }
     function test_createEvent(data) {
         event("Taken", 5, [])
