@@ -172,6 +172,43 @@ qint64 durationSeconds(const AVFormatContext *ctx)
     return ctx->duration / AV_TIME_BASE;
 }
 
+// One file's five entries, or none when it cannot be opened as a
+// container. The path is the file system's raw bytes, so any name opens.
+QStringList describeFile(const QByteArray &localPath)
+{
+    AVFormatContext *ctx = openContainer(localPath);
+    if (!ctx) {
+        logBadFile("open record file failed", localPath);
+        return {};
+    }
+    const qint64 seconds = durationSeconds(ctx);
+    // Only a video stream 0 has a picture size; audio-only or data-only
+    // files list as "0*0", which the screens show as no picture.
+    int width = 0, height = 0;
+    if (ctx->nb_streams > 0) {
+        const AVCodecParameters *par = ctx->streams[0]->codecpar;
+        const AVCodec *codec = avcodec_find_decoder(par->codec_id);
+        AVCodecContext *cc = codec ? avcodec_alloc_context3(codec) : nullptr;
+        if (!codec)
+            logBadFile("failed to find decoder for stream", localPath);
+        else if (!cc)
+            logBadFile("falied to allocate the decoder context for stream", localPath);
+        else if (avcodec_parameters_to_context(cc, par) < 0)
+            logBadFile("failed to copy decoder paramters to input decoder context for stream", localPath);
+        if (par->codec_type == AVMEDIA_TYPE_VIDEO) {
+            width = std::max(0, par->width);
+            height = std::max(0, par->height);
+            qCDebug(lcHardware) << "record size" << width << height;
+        }
+        avcodec_free_context(&cc);
+    }
+    avformat_close_input(&ctx);
+
+    const QString path = QFile::decodeName(localPath);
+    return {creationText(localPath), QFileInfo(path).completeBaseName(), lengthText(seconds),
+            QStringLiteral("%1*%2").arg(width).arg(height), devicePath(path)};
+}
+
 struct Entry
 {
     QByteArray name;
@@ -203,7 +240,7 @@ QStringList listRecordings(const QString &mount)
     QStringList list;
     for (const Entry &f : files) {
         qCDebug(lcHardware).noquote() << "record file:" << LineThrottle::shown(QFile::decodeName(f.name), 300);
-        list << UiproRecord_Desktop::describeFile(f.path);
+        list << describeFile(f.path);
     }
     return list;
 }
@@ -237,41 +274,6 @@ UiproRecord_Desktop::~UiproRecord_Desktop()
 void UiproRecord_Desktop::setFileSystemQuery(FileSystemQuery query)
 {
     m_query = query ? std::move(query) : FileSystemQuery(statfsQuery);
-}
-
-QStringList UiproRecord_Desktop::describeFile(const QByteArray &localPath)
-{
-    AVFormatContext *ctx = openContainer(localPath);
-    if (!ctx) {
-        logBadFile("open record file failed", localPath);
-        return {};
-    }
-    const qint64 seconds = durationSeconds(ctx);
-    // Only a video stream 0 has a picture size; audio-only or data-only
-    // files list as "0*0", which the screens show as no picture.
-    int width = 0, height = 0;
-    if (ctx->nb_streams > 0) {
-        const AVCodecParameters *par = ctx->streams[0]->codecpar;
-        const AVCodec *codec = avcodec_find_decoder(par->codec_id);
-        AVCodecContext *cc = codec ? avcodec_alloc_context3(codec) : nullptr;
-        if (!codec)
-            logBadFile("failed to find decoder for stream", localPath);
-        else if (!cc)
-            logBadFile("falied to allocate the decoder context for stream", localPath);
-        else if (avcodec_parameters_to_context(cc, par) < 0)
-            logBadFile("failed to copy decoder paramters to input decoder context for stream", localPath);
-        if (par->codec_type == AVMEDIA_TYPE_VIDEO) {
-            width = std::max(0, par->width);
-            height = std::max(0, par->height);
-            qCDebug(lcHardware) << "record size" << width << height;
-        }
-        avcodec_free_context(&cc);
-    }
-    avformat_close_input(&ctx);
-
-    const QString path = QFile::decodeName(localPath);
-    return {creationText(localPath), QFileInfo(path).completeBaseName(), lengthText(seconds),
-            QStringLiteral("%1*%2").arg(width).arg(height), devicePath(path)};
 }
 
 double UiproRecord_Desktop::check_is_usb_disk_ok_for_record()

@@ -43,11 +43,6 @@ public:
     // The mount point the last disk search found (a real path), "" if none.
     QString mountPath() const { return m_mountPath; }
 
-    // One file's entry: the five texts the list holds per file. Empty when
-    // the file cannot be opened as a container. The path is given as the
-    // raw bytes of the file system, so any name can be opened.
-    static QStringList describeFile(const QByteArray &localPath);
-
 signals:
     void updateFileRecord(QStringList files);
 
