@@ -29,7 +29,7 @@ Column {
     readonly property var renameTexts: ({
         empty: qsTr("Type a name."),
         long: qsTr("A name has at most 64 characters."),
-        characters: qsTr("A name cannot contain / \\ : * ? \" < > | or start or end with a dot."),
+        characters: qsTr("A name cannot contain %1 or start or end with a dot.").arg("/ \\ : * ? \" < > |"),
         exists: qsTr("A recording with this name already exists."),
         failed: qsTr("Could not rename the recording.")
     })
@@ -93,7 +93,8 @@ Column {
         value: !page.store ? ""
                : page.store.diskCode < 0 ? page.diskTexts[String(page.store.diskCode)] || ""
                : page.store.minutesLeft < 0 ? qsTr("not known yet")
-               : qsTr("about %n minute(s)", "", page.store.minutesLeft)
+               : page.store.minutesLeft < 120 ? qsTr("about %n minute(s)", "", page.store.minutesLeft)
+               : qsTr("about %1 h %2 min").arg(Math.floor(page.store.minutesLeft / 60)).arg(page.store.minutesLeft % 60)
     }
     InfoRow {
         objectName: "recordRate"

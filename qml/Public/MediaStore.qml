@@ -84,10 +84,13 @@ QtObject {
                 probe()
             if (manage) manage.uiproc.connectGetRecordFileName()
         } else {
-            // The finished file belongs in the list.
+            // The finished file belongs in the list; the media service may
+            // still be closing it, so the list is read again a moment later.
             refreshRecordings()
+            relist.restart()
         }
     }
+    property Timer relist: Timer { interval: 2000; onTriggered: store.refreshRecordings() }
 
     // --- recordings ------------------------------------------------------
     property var recordings: []       // { created, name, length, resolution, path }

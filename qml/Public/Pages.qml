@@ -22,7 +22,7 @@ QtObject {
           store: "board", source: Qt.resolvedUrl("../CSQML/SystemPage.qml") },
         { name: "record", title: qsTr("Record"), hint: qsTr("USB disk, recordings, playback"),
           store: "media", source: Qt.resolvedUrl("../CSQML/RecordPage.qml") },
-        { name: "upgrade", title: qsTr("Software upgrade"), hint: qsTr("From a USB disk"),
+        { name: "upgrade", title: qsTr("Upgrade"), hint: qsTr("New software from a USB disk"),
           store: "media", source: Qt.resolvedUrl("../CSQML/UpgradePage.qml") },
         { name: "stream", title: qsTr("Streaming"), hint: qsTr("Event, platforms, go live"),
           store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") }

@@ -53,6 +53,7 @@ TestCase {
         live.recording = false
         store.upgrading = false
         store.watchUpgradeDisk(false)
+        store.relist.stop()
         fakeManage.uiprocRecord.updateFileRecord(twoFiles)
         fakeManage.sent = []
     }
@@ -101,6 +102,7 @@ TestCase {
         verify(store.lowDisk)
         fakeManage.uiproVideo.pushRecordingStatus(0)
         compare(fakeManage.sent, ["probe", "fileName?", "list"], "the finished file is listed")
+        tryCompare(fakeManage, "sent", ["probe", "fileName?", "list", "list"], 3000, "and again once the file is closed")
         fakeManage.uiproVideo.pushUSBInitiative(0)
         compare([store.minutesLeft, store.diskCode, store.recordings.length], [-1, -1, 0], "a removed disk forgets its space and files")
     }
