@@ -32,7 +32,7 @@ QString UiproRtmp_Desktop::getPlatformNameByUrl(QString strPlatformUrl)
 
 namespace {
 // What an import left out, at most once a second.
-void logSkipped(const QString &path, qint64 size, int longLines, int extraUrls)
+void logSkipped(const QString &path, qint64 size, int longLines, int binaryLines, int extraUrls)
 {
     static LineThrottle throttle;
     int held = 0;
@@ -43,6 +43,8 @@ void logSkipped(const QString &path, qint64 size, int longLines, int extraUrls)
         parts << QStringLiteral("%1 of its %2 bytes after the first %3").arg(size - UiproRtmp_Desktop::kMaxImportBytes).arg(size).arg(UiproRtmp_Desktop::kMaxImportBytes);
     if (longLines)
         parts << QStringLiteral("%1 lines over %2 characters").arg(longLines).arg(UiproRtmp_Desktop::kMaxUrlChars);
+    if (binaryLines)
+        parts << QStringLiteral("%1 lines with control characters or bytes that are not UTF-8").arg(binaryLines);
     if (extraUrls)
         parts << QStringLiteral("%1 URLs after the first %2").arg(extraUrls).arg(UiproRtmp_Desktop::kMaxImportUrls);
     writeLog(QStringLiteral("URL import from %1 skipped %2%3")
@@ -50,13 +52,14 @@ void logSkipped(const QString &path, qint64 size, int longLines, int extraUrls)
                       held ? QStringLiteral(" (%1 more such imports since the last line)").arg(held) : QString()));
 }
 
-// A URL line as the log shows it: exact when it is printable text.
-QString shownLine(const QString &line)
+// Binary content is no URL: a control character or a byte sequence that
+// did not decode (U+FFFD).
+bool isText(const QString &line)
 {
     for (const QChar c : line)
-        if (!c.isPrint() || c == QLatin1Char('\\'))
-            return LineThrottle::shown(line, 1024);
-    return line;
+        if (c.unicode() < 0x20 || c.unicode() == 0x7f || c.unicode() == 0xfffd)
+            return false;
+    return true;
 }
 } // namespace
 
@@ -77,6 +80,7 @@ bool UiproRtmp_Desktop::importUrlFile(const QString &path, const QString &logPre
     }
     const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes);
     int longLines = 0;
+    int binaryLines = 0;
     int extraUrls = 0;
     int emitted = 0;
     for (const QStringRef &raw : text.splitRef(QLatin1Char('\n'))) {
@@ -87,16 +91,20 @@ bool UiproRtmp_Desktop::importUrlFile(const QString &path, const QString &logPre
             ++longLines;
             continue;
         }
+        if (!isText(line)) {
+            ++binaryLines;
+            continue;
+        }
         if (emitted >= kMaxImportUrls) {
             ++extraUrls;
             continue;
         }
-        writeLog(QStringLiteral("line======") + shownLine(line));
+        writeLog(QStringLiteral("line======") + line);
         emit sigSendPlatformUrl(getPlatformNameByUrl(line), line);
         ++emitted;
     }
-    if (truncated || longLines || extraUrls)
-        logSkipped(path, qMax(size, qint64(bytes.size())), longLines, extraUrls);
+    if (truncated || longLines || binaryLines || extraUrls)
+        logSkipped(path, qMax(size, qint64(bytes.size())), longLines, binaryLines, extraUrls);
     return true;
 }
 

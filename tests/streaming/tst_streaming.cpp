@@ -328,7 +328,8 @@ private slots:
         QByteArray garbage(4096, '\0');
         for (int i = 0; i < garbage.size(); ++i)
             garbage[i] = char((i * 7919) % 251);
-        QTest::newRow("binary garbage") << garbage << QStringList{"*"} << false;
+        QTest::newRow("binary garbage") << garbage << QStringList{"*0"} << true;
+        QTest::newRow("control character inside a URL") << QByteArray("rtmp://h/a\x1b[2Jb\nrtmp://h/ok\n") << QStringList{"other|rtmp://h/ok"} << true;
         QByteArray big;
         while (big.size() < 10 * 1024 * 1024)
             big += "rtmp://live.twitch.com/app/key_" + QByteArray::number(big.size()) + "\n";
