@@ -14,12 +14,40 @@
 #include <QSslSocket>
 #include <QUrl>
 
+namespace {
+bool hasControl(const QString &text)
+{
+    for (const QChar c : text)
+        if (c.unicode() < 0x20 || c.unicode() == 0x7f)
+            return true;
+    return false;
+}
+
+// Token and room id come from the companion app: the log shows them
+// escaped when they are not plain text, so they cannot forge log lines.
+QString shownValue(const QString &text)
+{
+    return hasControl(text) || text.size() > 512 ? LineThrottle::shown(text, 512) : text;
+}
+} // namespace
+
 void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QString Data)
 {
     // Success is reported under the most recent request, whichever reply it is.
     m_lastRequestUrl = localUrl;
     QNetworkRequest request(QUrl(localUrl, QUrl::TolerantMode));
-    writeLog(QStringLiteral("url:") + localUrl + QStringLiteral(" token:") + Token + QStringLiteral(" tmpData:") + Data);
+    writeLog(QStringLiteral("url:") + shownValue(localUrl) + QStringLiteral(" token:") + shownValue(Token)
+             + QStringLiteral(" tmpData:") + shownValue(Data));
+    // The token goes into a header line: a line break in it would add
+    // headers of the sender's choosing.
+    if (hasControl(Token)) {
+        static LineThrottle throttle;
+        int held = 0;
+        if (throttle.admit(&held))
+            writeLog(QStringLiteral("companion request to %1 not sent: the token holds control characters%2")
+                         .arg(shownValue(localUrl), held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+        return;
+    }
 
     // The service may use a certificate the device cannot check.
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
@@ -33,7 +61,7 @@ void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QS
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
     request.setRawHeader(QByteArrayLiteral("cookie"), QByteArrayLiteral("api_token=") + Token.toLatin1());
     request.setTransferTimeout(kRequestTimeoutMs);
-    writeLog(tr("提交的用户token：") + Token);
+    writeLog(tr("提交的用户token：") + shownValue(Token));
 
     // One manager per request, as in-flight calls (a heartbeat and an end
     // call) must not share state. httpRequestFinished deletes it with its

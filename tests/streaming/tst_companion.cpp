@@ -74,6 +74,7 @@ private slots:
     void initTestCase();
     void reply_data();
     void reply();
+    void tokenWithLineBreakIsNotSent();
     void successCarriesMostRecentRequestUrl();
 
 private:
@@ -140,6 +141,20 @@ void TestCompanion::reply()
     QVERIFY(head.contains("\r\ncontent-type: application/x-www-form-urlencoded\r\n"));
     QVERIFY(head.contains("\r\ncontent-length: " + QByteArray::number(sent.size()) + "\r\n"));
     QVERIFY(req.contains("\r\ncookie: api_token=tok-1\r\n"));
+}
+
+void TestCompanion::tokenWithLineBreakIsNotSent()
+{
+    m_server.answers["/api/Live/beginLive"] = {200, R"({"code":"SUCCEED"})", 0};
+    m_server.requests.clear();
+    UiproRtmp_Desktop rtmp;
+    QSignalSpy spy(&rtmp, &UiproRtmp_Desktop::sigSendHttpResult);
+    rtmp.httpRequestPostByUrl(url("/api/Live/beginLive"), "t\r\nX-Injected: 1", "r");
+    rtmp.httpRequestPostByUrl(url("/api/Live/beginLive"), "ok", "r\r\nX-Not-A-Header: 1");
+    SETTLE(rtmp);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(m_server.requests.size(), 1);
+    QVERIFY(m_server.requests.at(0).endsWith("\r\n\r\nlive_room_id=r\r\nX-Not-A-Header: 1"));
 }
 
 void TestCompanion::successCarriesMostRecentRequestUrl()
