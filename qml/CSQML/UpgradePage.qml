@@ -87,6 +87,7 @@ Column {
     InfoRow {
         objectName: "upgradeDisk"
         width: page.width
+        visible: page.store ? !page.store.upgrading : false
         name: qsTr("USB disk")
         value: !page.store ? ""
                : page.store.upgradeDisk === 0 ? qsTr("ready")
@@ -97,7 +98,7 @@ Column {
     Text {
         objectName: "upgradeNone"
         width: page.width
-        visible: page.store ? page.store.upgradeDisk === 0 && page.store.images.length === 0 : false
+        visible: page.store ? !page.store.upgrading && page.store.upgradeDisk === 0 && page.store.images.length === 0 : false
         text: qsTr("No upgrade images on the USB disk. They are named ZORVANE_RELEASE_<version>.img or ZORVANE_ALPHA_<version>.img and lie at the top of the disk.")
         color: Style.attention
         font.pixelSize: Style.fontSmall
@@ -122,9 +123,10 @@ Column {
         label: qsTr("Upgrade")
         detail: !page.store ? ""
                 : page.store.upgradeDisk !== 0 ? qsTr("Needs a USB disk")
+                : page.store.upgradeBlockedByShow ? qsTr("Stop recording and streaming first")
                 : page.chosenImage ? qsTr("to version %1").arg(page.chosenImage.version)
                 : qsTr("Choose a version first")
-        enabledState: page.store ? page.store.upgradeDisk === 0 && page.chosenImage !== null : false
+        enabledState: page.store ? page.store.upgradeDisk === 0 && !page.store.upgradeBlockedByShow && page.chosenImage !== null : false
         onClicked: page.askUpgrade()
     }
 

@@ -218,8 +218,11 @@ QtObject {
         }
         return out
     }
+    // The upgrade stops the media service and restarts the device: never
+    // while anything is on air or being recorded.
+    readonly property bool upgradeBlockedByShow: live ? live.onAir : false
     function startUpgrade(file) {
-        if (upgrading || upgradeDisk !== 0 || !versions)
+        if (upgrading || upgradeDisk !== 0 || !versions || upgradeBlockedByShow)
             return false
         var known = images.some(function (image) { return image.file === file })
         if (!known)

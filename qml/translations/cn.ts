@@ -1321,6 +1321,10 @@ Current Version: </source>
         <source>Choose a version first</source>
         <translation>请先选择版本</translation>
     </message>
+    <message>
+        <source>Stop recording and streaming first</source>
+        <translation>请先停止录制和推流</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

@@ -1327,6 +1327,10 @@ Aktuelle Version: </translation>
         <source>Choose a version first</source>
         <translation>Zuerst eine Version wählen</translation>
     </message>
+    <message>
+        <source>Stop recording and streaming first</source>
+        <translation>Erst Aufnahme und Stream beenden</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

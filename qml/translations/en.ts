@@ -1327,6 +1327,10 @@ Current Version: </translation>
         <source>Choose a version first</source>
         <translation>Choose a version first</translation>
     </message>
+    <message>
+        <source>Stop recording and streaming first</source>
+        <translation>Stop recording and streaming first</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

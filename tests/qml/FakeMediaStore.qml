@@ -37,6 +37,7 @@ QtObject {
     property int upgradeDisk: 0
     property var images: []
     property bool upgrading: false
+    property bool upgradeBlockedByShow: false
     property int bridgeUpgrade: -1
     property string currentVersion: "2.4.0"
     function watchUpgradeDisk(on) { record("watchUpgradeDisk " + on) }

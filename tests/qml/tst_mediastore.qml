@@ -163,6 +163,12 @@ TestCase {
         verify(!store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"))
         fakeManage.uiprocVersion.disk = 0
         tryCompare(store, "upgradeDisk", 0, 3000)
+        var sent = fakeManage.sent
+        live.recording = true
+        verify(!store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"), "not while recording")
+        live.recording = false
+        store.relist.stop()
+        fakeManage.sent = sent
         verify(store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"))
         verify(!store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"), "once")
         compare(fakeManage.sent, ["versions?", "versions?", "upgrade ZORVANE_RELEASE_1.0.9.img"])

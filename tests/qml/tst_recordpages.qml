@@ -29,6 +29,7 @@ TestCase {
         fake.diskCode = 1
         fake.minutesLeft = -1
         fake.upgrading = false
+        fake.upgradeBlockedByShow = false
         fake.upgradeDisk = 0
         fake.bridgeUpgrade = -1
         fake.recordings = [{ created: "2026/11/20 10:00:00", name: "talk", length: "00:42:07", resolution: "1920*1080", path: "/media/usb0/talk.mp4" }]
@@ -123,8 +124,12 @@ TestCase {
         compare(fake.calls, ["watchUpgradeDisk true", "startUpgrade ZORVANE_RELEASE_1.0.9.img"])
         verify(findChild(page, "upgrading").visible)
         verify(!start.visible)
-        fake.upgradeDisk = -1
         fake.upgrading = false
+        fake.upgradeBlockedByShow = true
+        verify(!start.enabledState, "not while on air or recording")
+        compare(start.detail, qsTranslate("UpgradePage", "Stop recording and streaming first"))
+        fake.upgradeBlockedByShow = false
+        fake.upgradeDisk = -1
         verify(!start.enabledState, "no disk, no upgrade")
     }
 
