@@ -24,10 +24,6 @@
 #include <atomic>
 #include <cstdio>
 
-extern "C" {
-#include <libavutil/avutil.h>
-}
-
 #include <pthread.h>
 #include <sched.h>
 #include <sys/syscall.h>
@@ -107,8 +103,6 @@ QVariantMap aboutInfo()
     info.insert(QStringLiteral("version"), QStringLiteral(CS_APP_VERSION));
     info.insert(QStringLiteral("buildDate"), QStringLiteral(__DATE__ " " __TIME__));
     info.insert(QStringLiteral("qtVersion"), QString::fromLatin1(qVersion()));
-    info.insert(QStringLiteral("ffmpegVersion"), QString::fromLatin1(av_version_info()));
-    info.insert(QStringLiteral("ffmpegLicence"), QString::fromLatin1(avutil_license()));
     return info;
 }
 

@@ -88,7 +88,9 @@ Window {
             startDevice(startSettings)
         }
     }
-    onFrameSwapped: startDeviceOnce()
+    // On the next turn of the event loop, so the frame's own report is not
+    // held up by the start-up that follows it.
+    onFrameSwapped: if (!deviceStarted) Qt.callLater(startDeviceOnce)
     // A window that never shows a frame (offscreen, hidden) starts all the same.
     Timer { interval: 300; running: true; onTriggered: window.startDeviceOnce() }
 
@@ -104,6 +106,7 @@ Window {
         manage.uiproNetwork.getIpAddress(0)
         board = boardStore.createObject(window, { manage: manage })
         board.start(settings)
+        system.requestLibraryInfo()
         manage.uiproc.initFinished()
         live.start()
         // A page asks the device as it opens: only once reports are heard.

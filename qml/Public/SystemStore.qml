@@ -36,6 +36,17 @@ QtObject {
         manage.uiproc.connectGetLocalHost()
     }
 
+    // FFmpeg is loaded on demand; its versions join `about` when known.
+    function requestLibraryInfo() { manage.uiproMain.requestLibraryInfo() }
+    property Connections libraries: Connections {
+        target: store.manage ? store.manage.uiproMain : null
+        function onLibraryInfo(info) {
+            var merged = Object.assign({}, store.about)
+            for (var k in info) merged[k] = info[k]
+            store.about = merged
+        }
+    }
+
     property Connections reports: Connections {
         target: store.manage ? store.manage.uiproVideo : null
         function onPushSoftwareVersion(first, second) { store.softwareVersion = first + "." + second }

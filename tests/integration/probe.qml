@@ -60,7 +60,9 @@ Item {
         property int ticks: 0
         onTriggered: {
             ticks++
-            if (ticks === 4) manage.uiproc.connectSwitchVideo(2, true)
+            // Asked again until answered: a loaded machine may reach the first ask
+            // only after the simulator has gone away.
+            if (ticks % 8 === 4 && probe.cut !== 2) manage.uiproc.connectSwitchVideo(2, true)
             if (ticks === 5) manage.uiproc.connectReadInitInput()
             if (ticks % 4 === 0) console.log("PROBE second " + ticks / 4 + " frames " + probe.frames)
             if ((probe.cut === 2 && probe.initSeen && probe.frames > 20 && probe.levelsMoved && ticks >= probe.minSeconds * 4) || ticks > 160) {

@@ -15,6 +15,7 @@ Item {
         }
         return null
     }
+    function ffmpeg() { var row = find(probe.window.contentItem, "about_ffmpeg"); return row ? row.name : "" }
     function value(name) { var row = find(probe.window.contentItem, name); return row ? row.value : "" }
 
     Component.onCompleted: window = Qt.createComponent("qrc:/main.qml").createObject(probe)
@@ -26,11 +27,12 @@ Item {
             ticks++
             var host = probe.find(probe.window.contentItem, "pageHost")
             var answered = ["about_software", "about_system", "about_address"].every(function (n) { return /\d\.\d/.test(value(n)) })
-                           && value("about_serial") === "CS2026SIM00001"
+                           && value("about_serial") === "CS2026SIM00001" && ffmpeg() !== "FFmpeg "
             if ((host.current !== "about" && ticks >= 8) || answered || ticks > 60) {
                 console.log("PROBE page=" + host.current + " visible=" + host.visible + " title=" + probe.find(host, "pageTitle").text)
                 console.log("PROBE about software=" + value("about_software") + " system=" + value("about_system")
                             + " serial=" + value("about_serial") + " address=" + value("about_address"))
+                console.log("PROBE about library=" + ffmpeg())
                 Qt.quit()
             }
         }

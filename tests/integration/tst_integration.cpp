@@ -172,9 +172,11 @@ private slots:
         const bool refused = shown.isEmpty();
         QCOMPARE(out.contains(QStringLiteral("CS_START_PAGE: no page named \"%1\"").arg(name)), refused);
         QCOMPARE(log.contains(QStringLiteral("CS_START_PAGE: no page named %1,").arg(name)), refused);
-        if (!refused) // what the simulator answered, on the page
+        if (!refused) { // what the simulator answered, on the page; FFmpeg's version once it is loaded
             QVERIFY2(out.contains(QStringLiteral("PROBE about software=1.8 system=2.3 serial=CS2026SIM00001 address=192.168.1.88")),
                      qPrintable(out.right(3000)));
+            QVERIFY2(out.contains(QRegularExpression(QStringLiteral("PROBE about library=FFmpeg \\d"))), qPrintable(out.right(3000)));
+        }
     }
 };
 
