@@ -250,12 +250,15 @@ QtObject {
             store.playback = "stopped"
             store.playbackEnded = true
         }
-        // A disk taken out: nothing known about its space any more.
+        // A disk taken out: nothing known about its space any more. A disk
+        // put in: its recordings are listed (off this thread).
         function onPushUSBInitiative(status) {
             if (status === 0) {
                 store.usableKiB = -1
                 store.diskCode = -1
                 store.recordings = []
+            } else {
+                store.refreshRecordings()
             }
         }
     }

@@ -105,6 +105,9 @@ TestCase {
         tryCompare(fakeManage, "sent", ["probe", "fileName?", "list", "list"], 3000, "and again once the file is closed")
         fakeManage.uiproVideo.pushUSBInitiative(0)
         compare([store.minutesLeft, store.diskCode, store.recordings.length], [-1, -1, 0], "a removed disk forgets its space and files")
+        fakeManage.sent = []
+        fakeManage.uiproVideo.pushUSBInitiative(1)
+        compare(fakeManage.sent, ["list"], "a new disk is listed")
     }
 
     function test_listParsing_data() {

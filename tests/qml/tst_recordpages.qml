@@ -1,6 +1,8 @@
 import QtQuick 2.15
 import QtTest 1.2
 import "qrc:/CSQML"
+import "qrc:/Element"
+import "qrc:/Public"
 
 // The record and upgrade pages on a fake store: refusals say why, stopping
 // and upgrading ask once, rename and playback reach the store, and the
@@ -13,6 +15,7 @@ Item {
     FakeMediaStore { id: fake }
     Component { id: recordPage; RecordPage { width: root.width } }
     Component { id: upgradePage; UpgradePage { width: root.width } }
+    Component { id: statusBar; StatusBar { width: root.width } }
 
 TestCase {
     name: "RecordPages"
@@ -131,6 +134,21 @@ TestCase {
         fake.upgradeBlockedByShow = false
         fake.upgradeDisk = -1
         verify(!start.enabledState, "no disk, no upgrade")
+    }
+
+    // The status line: minutes left beside the recording time, amber when few.
+    function test_statusLineMinutesLeft_data() {
+        return [{ tag: "plenty", recording: true, minutes: 95, low: false, shown: true },
+                { tag: "few", recording: true, minutes: 7, low: true, shown: true },
+                { tag: "not recording", recording: false, minutes: 95, low: false, shown: false },
+                { tag: "not known", recording: true, minutes: -1, low: false, shown: false }]
+    }
+    function test_statusLineMinutesLeft(data) {
+        var bar = createTemporaryObject(statusBar, root, { recording: data.recording, minutesLeft: data.minutes, lowDisk: data.low })
+        var chip = findChild(bar, "recordLeftChip")
+        compare(chip.visible, data.shown)
+        compare(chip.text, qsTranslate("StatusBar", "%n min left", "", data.minutes))
+        compare(Qt.colorEqual(chip.mark, Style.attention), data.low)
     }
 
     function test_bridgeMessages_data() {
