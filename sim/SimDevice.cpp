@@ -643,13 +643,25 @@ QVector<Report> Device::onStreamAddress(const model_Protocoldata &c)
         return {};
     }
     const uchar status = b.at(0) ? 1 : 0;
-    m_state.stream[c.DAT2] = status;
-    m_state.streamAddress[c.DAT2] = b.mid(2, b.size() - 4);
-    qCInfo(lcSim).noquote() << QStringLiteral("stream %1 %2 %3")
-                                   .arg(c.DAT2)
-                                   .arg(status ? QStringLiteral("on air to") : QStringLiteral("off, was"))
-                                   .arg(QString::fromLatin1(m_state.streamAddress[c.DAT2]));
-    return one(report(0xD0, 0x04, status, c.DAT2));
+    // One block may carry several comma-separated addresses: each takes the
+    // next channel, from the one the command names.
+    const QList<QByteArray> addresses = b.mid(2, b.size() - 4).split(',');
+    QVector<Report> out;
+    for (int i = 0; i < addresses.size(); ++i) {
+        const int channel = c.DAT2 + i;
+        if (channel >= kStreamChannels) {
+            reject(c, QStringLiteral("%1 stream addresses from channel %2, more than the channels").arg(addresses.size()).arg(c.DAT2));
+            break;
+        }
+        m_state.stream[size_t(channel)] = status;
+        m_state.streamAddress[size_t(channel)] = addresses.at(i);
+        qCInfo(lcSim).noquote() << QStringLiteral("stream %1 %2 %3")
+                                       .arg(channel)
+                                       .arg(status ? QStringLiteral("on air to") : QStringLiteral("off, was"))
+                                       .arg(QString::fromLatin1(addresses.at(i)));
+        out += one(report(0xD0, 0x04, status, uchar(channel)));
+    }
+    return out;
 }
 
 QVector<Report> Device::onStreamParams(const model_Protocoldata &c)

@@ -54,6 +54,7 @@ QtObject {
     // Going live is confirmed only by the device's channel reports.
     readonly property var streams: live ? live.streams : [0, 0, 0, 0]
     property int expected: 0               // channels asked to go live
+    property string liveAddress: ""        // the address block that went live (`rtmpAddr`)
     property string phase: ""              // "", "starting", "unconfirmed", "stopping"
     readonly property bool streaming: streams.some(function (s) { return s !== 0 })
     function channelState(i) {
@@ -100,6 +101,8 @@ QtObject {
     function loadSettings(settings) {
         if (typeof settings.eventName === "string" && settings.eventName !== "")
             eventName = settings.eventName
+        if (typeof settings.rtmpAddr === "string")
+            liveAddress = settings.rtmpAddr
         if (settings.rtmpMode !== undefined) model = codeIn(models, Number(settings.rtmpMode), model)
         if (settings.rtmpResolution !== undefined) resolution = codeIn(resolutions, Number(settings.rtmpResolution), resolution)
         if (settings.rtmpBit !== undefined) bitrate = codeIn(bitrates, Number(settings.rtmpBit), bitrate)
@@ -292,6 +295,7 @@ QtObject {
                                           choice(bitrates, bitrate).device)
         manage.uiproc.connectStreamOnAir(1, address, true)
         manage.uiproc.writeInitConfig({ "rtmpSwitch": 1, "rtmpAddr": address, "eventName": eventName })
+        liveAddress = address
         expected = urls.length
         phase = "starting"
         confirmWait.restart()
@@ -302,7 +306,9 @@ QtObject {
         if (!manage)
             return
         refusal = ""
-        manage.uiproc.connectStreamOnAir(0, "", true)
+        // The same addresses switched off free the same channels.
+        var address = liveAddress !== "" ? liveAddress : rtmp ? rtmp.getAvailablePaltformUrlsByName(eventName) : ""
+        manage.uiproc.connectStreamOnAir(0, address, true)
         manage.uiproc.writeInitConfig({ "rtmpSwitch": 0 })
         expected = 0
         phase = streaming ? "stopping" : ""

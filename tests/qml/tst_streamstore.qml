@@ -73,6 +73,7 @@ TestCase {
         store.eventName = "Current"
         store.phase = ""
         store.refusal = ""
+        store.liveAddress = ""
         store.editList = []
         store.imported = []
         store.confirmWait.stop()
@@ -131,7 +132,7 @@ TestCase {
         compare([store.channelState(0), store.channelState(1), store.phase], ["live", "live", ""])
         fakeManage.log = []
         store.stop()
-        compare(fakeManage.log, ["onAir 0  true", 'save {"rtmpSwitch":0}'])
+        compare(fakeManage.log, ["onAir 0 rtmp://a/1,rtmp://b/2 true", 'save {"rtmpSwitch":0}'], "the addresses that went live are switched off")
         compare(store.channelState(0), "stopping")
         fakeLive.streams = [0, 0, 0, 0]
         compare([store.channelState(0), store.phase], ["off", ""])

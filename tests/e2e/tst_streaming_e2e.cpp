@@ -1,0 +1,120 @@
+// Streaming from end to end: the real application against the simulator,
+// driven through its controls. Addresses come from rtmp.ini on the USB
+// disk; what reaches the simulator, what the event file and the settings
+// keep, and what the screens show are checked.
+#include "TestSysroot.h"
+
+#include <QDateTime>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QUdpSocket>
+#include <QtTest>
+
+#include <sys/ipc.h>
+#include <sys/sem.h>
+#include <sys/shm.h>
+
+namespace {
+quint16 freeUdpPort()
+{
+    QUdpSocket s;
+    s.bind(QHostAddress(QHostAddress::LocalHost), 0);
+    return s.localPort();
+}
+void removeIpc(int preview, int sem, int audio)
+{
+    int id = shmget(preview, 0, 0);
+    if (id >= 0) shmctl(id, IPC_RMID, nullptr);
+    id = shmget(audio, 0, 0);
+    if (id >= 0) shmctl(id, IPC_RMID, nullptr);
+    id = semget(sem, 0, 0);
+    if (id >= 0) semctl(id, 0, IPC_RMID);
+}
+} // namespace
+
+class TstStreamingE2e : public QObject
+{
+    Q_OBJECT
+private slots:
+    void importChooseGoLiveAndStop()
+    {
+        TestSysroot root(true);
+        QVERIFY(root.isValid());
+        const QString youtube = QStringLiteral("rtmp://a.rtmp.youtube.com/live2/e2e-key-1");
+        const QString twitch = QStringLiteral("rtmp://live.twitch.com/app/e2e-key-2");
+        const QString facebook = QStringLiteral("rtmps://live-api-s.facebook.com:443/rtmp/e2e-key-3");
+        // Blank line, padding and a CR LF end, as a computer may leave them.
+        QVERIFY(TestSysroot::writeFile(root.path(QStringLiteral("/media/usb0/rtmp.ini")),
+                                       (youtube + "\n\n  " + twitch + "  \r\n" + facebook + "\n").toUtf8()));
+
+        const int base = 0x6e000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("CS_SYSROOT"), root.root());
+        env.insert(QStringLiteral("CS_MEDIA_PORT"), QString::number(freeUdpPort()));
+        env.insert(QStringLiteral("CS_LISTEN_PORT"), QString::number(freeUdpPort()));
+        env.insert(QStringLiteral("CS_PREVIEW_SHM_KEY"), QString::number(base));
+        env.insert(QStringLiteral("CS_PREVIEW_SEM_KEY"), QString::number(base + 1));
+        env.insert(QStringLiteral("CS_AUDIO_SHM_KEY"), QString::number(base + 2));
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
+        env.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("cs.*.debug=false\ncs.sim.info=true"));
+
+        QProcess sim;
+        sim.setProcessEnvironment(env);
+        sim.setProcessChannelMode(QProcess::MergedChannels);
+        sim.start(QStringLiteral(CS_BINARY_DIR "/sim/cs-mediasim"),
+                  {QStringLiteral("--size"), QStringLiteral("320x180"), QStringLiteral("--fps"), QStringLiteral("10"),
+                   QStringLiteral("--seconds"), QStringLiteral("90")});
+        QVERIFY(sim.waitForStarted(5000));
+
+        QProcess app;
+        env.insert(QStringLiteral("CS_MAIN_QML"), QStringLiteral(CS_SOURCE_DIR "/tests/e2e/streamprobe.qml"));
+        app.setProcessEnvironment(env);
+        app.setProcessChannelMode(QProcess::MergedChannels);
+        app.start(QStringLiteral(CS_BINARY_DIR "/CSFrontEnd"), QStringList());
+        QVERIFY(app.waitForFinished(90000));
+        const QString out = QString::fromLocal8Bit(app.readAll());
+        sim.terminate();
+        sim.waitForFinished(5000);
+        const QString simOut = QString::fromLocal8Bit(sim.readAll());
+        removeIpc(base, base + 1, base + 2);
+
+        const auto done = QRegularExpression(QStringLiteral("PROBE done tomorrow18=(\\d+)")).match(out);
+        QVERIFY2(done.hasMatch(), qPrintable(out.right(4000)));
+        // The status line names the live channels while streaming.
+        QVERIFY2(out.contains(QStringLiteral("PROBE status CH1 live,CH2 live,CH3 off,CH4 off")), qPrintable(out.right(4000)));
+
+        // The simulator was sent both addresses in one block, in list order,
+        // and switched the same two off.
+        QVERIFY2(simOut.contains(QStringLiteral("stream 0 on air to ") + youtube), qPrintable(simOut.right(3000)));
+        QVERIFY2(simOut.contains(QStringLiteral("stream 1 on air to ") + twitch), qPrintable(simOut.right(3000)));
+        QVERIFY2(simOut.contains(QStringLiteral("stream 0 off, was ") + youtube), qPrintable(simOut.right(3000)));
+        QVERIFY2(simOut.contains(QStringLiteral("stream 1 off, was ") + twitch), qPrintable(simOut.right(3000)));
+        QVERIFY(!simOut.contains(facebook));
+
+        // The event keeps its start time after its addresses were saved.
+        const qint64 tomorrow18 = QDateTime(QDate::currentDate().addDays(1), QTime(18, 0)).toMSecsSinceEpoch();
+        QCOMPARE(done.captured(1).toLongLong(), tomorrow18);
+        QSettings events(root.path(QStringLiteral("/usr/bin/config/CS_event.ini")), QSettings::IniFormat);
+        events.setIniCodec("UTF-8");
+        events.beginGroup(QStringLiteral("Tomorrow show"));
+        QCOMPARE(events.value(QStringLiteral("StartTime")).toLongLong(), tomorrow18);
+        QCOMPARE(events.value(QStringLiteral("PlatformNum")).toInt(), 2);
+        QCOMPARE(events.value(QStringLiteral("streamUrl_0")).toString(), youtube);
+        QCOMPARE(events.value(QStringLiteral("streamUrl_1")).toString(), twitch);
+        QCOMPARE(events.value(QStringLiteral("streamStatus_0")).toString(), QStringLiteral("true"));
+        QCOMPARE(events.value(QStringLiteral("streamStatus_1")).toString(), QStringLiteral("true"));
+        events.endGroup();
+
+        QSettings settings(root.configFile(), QSettings::IniFormat);
+        settings.setIniCodec("UTF-8");
+        settings.beginGroup(QStringLiteral("setting"));
+        QCOMPARE(settings.value(QStringLiteral("eventName")).toString(), QStringLiteral("Tomorrow show"));
+        QCOMPARE(settings.value(QStringLiteral("rtmpSwitch")).toInt(), 0);
+        QCOMPARE(settings.value(QStringLiteral("rtmpAddr")).toString(), youtube + QLatin1Char(',') + twitch);
+    }
+};
+
+QTEST_GUILESS_MAIN(TstStreamingE2e)
+#include "tst_streaming_e2e.moc"
