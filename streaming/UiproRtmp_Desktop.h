@@ -17,6 +17,8 @@ class QNetworkReply;
 class UiproRtmp_Desktop : public QObject
 {
     Q_OBJECT
+    // "https://<companion domain>": the screens append "/api/Live/beginLive" and the like.
+    Q_PROPERTY(QString companionHost READ companionHost CONSTANT)
 public:
     explicit UiproRtmp_Desktop(QObject *parent = nullptr);
 
@@ -36,6 +38,7 @@ public:
     static QString eventFilePath();
     static QString zorFilePath();
     static QString usbUrlFilePath();
+    QString companionHost() const;
 
 signals:
     void sigEventInfo(QString strName, QString strStartTime);

@@ -2,6 +2,7 @@
 // HTTPS, success reported only for a reply whose "code" is "SUCCEED".
 #include "UiproRtmp_Desktop.h"
 
+#include "CompanionService.h"
 #include "LineThrottle.h"
 #include "Logger.h"
 
@@ -30,6 +31,8 @@ QString shownValue(const QString &text)
     return hasControl(text) || text.size() > 512 ? LineThrottle::shown(text, 512) : text;
 }
 } // namespace
+
+QString UiproRtmp_Desktop::companionHost() const { return CompanionService::companionHost(); }
 
 void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QString Data)
 {

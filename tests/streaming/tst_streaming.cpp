@@ -421,6 +421,7 @@ private slots:
         QVERIFY2(obj, qPrintable(c.errorString()));
         QMetaObject::invokeMethod(obj.data(), "getAllEventInfo");
         QCOMPARE(obj->property("got").toStringList(), QStringList{"Show:number:1700000000000"});
+        QCOMPARE(obj->property("companionHost").toString(), QString("https://zorvane.com"));
     }
 
 private:
