@@ -106,7 +106,8 @@ Column {
     }
     Repeater {
         objectName: "upgradeImages"
-        model: page.store && !page.store.upgrading ? page.store.images : []
+        // Nothing to choose while an upgrade or the bridge firmware step runs.
+        model: page.store && !page.store.upgrading && page.store.bridgeUpgrade !== 0 ? page.store.images : []
         TouchButton {
             objectName: "upgradeImage" + index
             width: page.width
@@ -119,7 +120,7 @@ Column {
     TouchButton {
         objectName: "upgradeStart"
         width: page.width
-        visible: page.store ? !page.store.upgrading : false
+        visible: page.store ? !page.store.upgrading && page.store.bridgeUpgrade !== 0 : false
         label: qsTr("Upgrade")
         detail: !page.store ? ""
                 : page.store.upgradeDisk !== 0 ? qsTr("Needs a USB disk")

@@ -222,7 +222,7 @@ QtObject {
     // while anything is on air or being recorded.
     readonly property bool upgradeBlockedByShow: live ? live.onAir : false
     function startUpgrade(file) {
-        if (upgrading || upgradeDisk !== 0 || !versions || upgradeBlockedByShow)
+        if (upgrading || upgradeDisk !== 0 || !versions || upgradeBlockedByShow || bridgeUpgrade === 0)
             return false
         var known = images.some(function (image) { return image.file === file })
         if (!known)

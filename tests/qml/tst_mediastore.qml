@@ -170,6 +170,9 @@ TestCase {
         live.recording = true
         verify(!store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"), "not while recording")
         live.recording = false
+        store.board = { bridgeUpgrade: 0 }
+        verify(!store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"), "not while the bridge firmware is written")
+        store.board = null
         store.relist.stop()
         fakeManage.sent = sent
         verify(store.startUpgrade("ZORVANE_RELEASE_1.0.9.img"))

@@ -161,6 +161,7 @@ TestCase {
         fake.bridgeUpgrade = data.state
         var page = open(upgradePage)
         compare(findChild(page, "bridgeMessage").text, qsTranslate("UpgradePage", data.text) + data.tail)
+        compare(findChild(page, "upgradeStart").visible, data.state !== 0, "no new upgrade while the firmware is written")
     }
 }
 }
