@@ -31,6 +31,7 @@ Column {
         long: qsTr("A name has at most 64 characters."),
         characters: qsTr("A name cannot contain %1 or start or end with a dot.").arg("/ \\ : * ? \" < > |"),
         exists: qsTr("A recording with this name already exists."),
+        busy: qsTr("The recording still being made cannot be renamed."),
         failed: qsTr("Could not rename the recording.")
     })
 
@@ -145,7 +146,8 @@ Column {
                     Text {
                         objectName: "recordName" + index
                         width: parent.width
-                        text: modelData.name
+                        text: modelData.label
+                        textFormat: Text.PlainText
                         color: Style.text
                         font.pixelSize: Style.fontNormal
                         elide: Text.ElideMiddle
@@ -154,6 +156,7 @@ Column {
                         objectName: "recordDetail" + index
                         width: parent.width
                         text: modelData.length + "   " + modelData.resolution.replace("*", "×") + "   " + modelData.created
+                        textFormat: Text.PlainText
                         color: Style.textDim
                         font.pixelSize: Style.fontSmall
                         elide: Text.ElideRight

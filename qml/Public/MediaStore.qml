@@ -61,6 +61,7 @@ QtObject {
     }
 
     property string fileName: ""      // the running recording's file, as the device names it
+    property string recordPath: ""
     property int recordSeconds: 0
     readonly property string recordTime: clockText(recordSeconds)
     function clockText(s) {
@@ -105,12 +106,19 @@ QtObject {
     function parseRecordings(flat) {
         var out = []
         var n = flat ? flat.length : 0
-        for (var i = 0; i + 4 < n; i += 5)
-            out.push({ created: String(flat[i]), name: String(flat[i + 1]), length: String(flat[i + 2]),
+        for (var i = 0; i + 4 < n; i += 5) {
+            var name = String(flat[i + 1])
+            out.push({ created: String(flat[i]), name: name, label: shown(name), length: String(flat[i + 2]),
                        resolution: String(flat[i + 3]), path: String(flat[i + 4]) })
+        }
         if (n % 5 !== 0)
             console.warn("record list: " + n + " entries, not groups of five; the last " + (n % 5) + " left out")
         return out
+    }
+
+    // File names come from any disk: shown on one line, never as markup.
+    function shown(text) {
+        return String(text).replace(/[\x00-\x1f\x7f\u2028\u2029]/g, "\ufffd").replace(/</g, "\u2039").replace(/>/g, "\u203a")
     }
 
     // Names land on a USB disk, usually FAT: none of its forbidden
@@ -122,8 +130,11 @@ QtObject {
             return "characters"
         return ""
     }
-    // "" when renamed, otherwise "empty", "long", "characters", "exists" or "failed".
+    // "" when renamed, otherwise "empty", "long", "characters", "exists",
+    // "busy" (the file being recorded) or "failed".
     function rename(path, newName) {
+        if (recording && recordPath !== "" && path === recordPath)
+            return "busy"
         newName = String(newName).trim()
         var problem = nameProblem(newName)
         if (problem !== "")
@@ -143,7 +154,7 @@ QtObject {
         if (!newPath)
             return "failed"
         var copy = recordings.slice()
-        copy[index] = Object.assign({}, copy[index], { name: newName, path: String(newPath) })
+        copy[index] = Object.assign({}, copy[index], { name: newName, label: shown(newName), path: String(newPath) })
         recordings = copy
         return ""
     }
@@ -201,7 +212,10 @@ QtObject {
             var tail = imageKinds[k].tail
             if (entry.length > tail.length && entry.slice(-tail.length) === tail) {
                 var rest = entry.slice(0, -tail.length)
-                return { version: rest.replace(/\.img$/, ""), kind: imageKinds[k].kind, file: tail.slice(1) + rest }
+                var version = rest.replace(/\.img$/, "")
+                if (version === "" || version === rest)
+                    return null
+                return { version: shown(version), kind: imageKinds[k].kind, file: tail.slice(1) + rest }
             }
         }
         return null
@@ -209,13 +223,18 @@ QtObject {
     // The list comes lowest first; it is shown highest first.
     function imagesFrom(list) {
         var out = []
+        var skipped = 0, first = ""
         for (var i = (list ? list.length : 0) - 1; i >= 0; --i) {
             var image = imageFromEntry(list[i])
-            if (image)
+            if (image) {
                 out.push(image)
-            else
-                console.warn("upgrade list: entry not understood, left out: " + JSON.stringify(String(list[i]).slice(0, 80)))
+            } else if (skipped++ === 0) {
+                first = String(list[i])
+            }
         }
+        // One line per scan, however many names a disk brings.
+        if (skipped > 0)
+            console.warn("upgrade list: " + skipped + " entries not understood, left out; the first: " + JSON.stringify(first.slice(0, 80)))
         return out
     }
     // The upgrade stops the media service and restarts the device: never
@@ -245,7 +264,10 @@ QtObject {
     property Connections deviceReports: Connections {
         target: store.manage ? store.manage.uiproVideo : null
         ignoreUnknownSignals: true
-        function onPushRecordFileName(recordFilePath, recordFileName) { store.fileName = recordFileName }
+        function onPushRecordFileName(recordFilePath, recordFileName) {
+            store.recordPath = recordFilePath
+            store.fileName = store.shown(recordFileName)
+        }
         function onPushRecordPlayEndInitiative() {
             store.playback = "stopped"
             store.playbackEnded = true

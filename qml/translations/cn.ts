@@ -836,6 +836,12 @@
         <source>Add and switch on</source>
         <translation>添加并启用</translation>
     </message>
+    <message numerus="yes">
+        <source>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</source>
+        <translation>
+            <numerusform>已略过U盘或手机应用提供的 %n 个地址：含空格、逗号、Latin-1 以外的字符或过长。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PreviewPanel</name>
@@ -1001,6 +1007,10 @@
     <message>
         <source>A name cannot contain %1 or start or end with a dot.</source>
         <translation>名称不能包含 %1，也不能以点开头或结尾。</translation>
+    </message>
+    <message>
+        <source>The recording still being made cannot be renamed.</source>
+        <translation>正在录制的文件不能重命名。</translation>
     </message>
 </context>
 <context>

@@ -837,6 +837,13 @@
         <source>Add and switch on</source>
         <translation>Hinzufügen und einschalten</translation>
     </message>
+    <message numerus="yes">
+        <source>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</source>
+        <translation>
+            <numerusform>%n angebotene Adresse ausgelassen: Leerzeichen, Kommas, Zeichen außerhalb von Latin-1 oder zu lang.</numerusform>
+            <numerusform>%n angebotene Adressen ausgelassen: Leerzeichen, Kommas, Zeichen außerhalb von Latin-1 oder zu lang.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PreviewPanel</name>
@@ -1004,6 +1011,10 @@
     <message>
         <source>A name cannot contain %1 or start or end with a dot.</source>
         <translation>Ein Name darf %1 nicht enthalten und nicht mit einem Punkt beginnen oder enden.</translation>
+    </message>
+    <message>
+        <source>The recording still being made cannot be renamed.</source>
+        <translation>Die laufende Aufnahme kann nicht umbenannt werden.</translation>
     </message>
 </context>
 <context>

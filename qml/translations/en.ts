@@ -837,6 +837,13 @@
         <source>Add and switch on</source>
         <translation>Add and switch on</translation>
     </message>
+    <message numerus="yes">
+        <source>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</source>
+        <translation>
+            <numerusform>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</numerusform>
+            <numerusform>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>PreviewPanel</name>
@@ -1004,6 +1011,10 @@
     <message>
         <source>A name cannot contain %1 or start or end with a dot.</source>
         <translation>A name cannot contain %1 or start or end with a dot.</translation>
+    </message>
+    <message>
+        <source>The recording still being made cannot be renamed.</source>
+        <translation>The recording still being made cannot be renamed.</translation>
     </message>
 </context>
 <context>

@@ -99,6 +99,7 @@ TestCase {
         compare(fakeManage.sent, ["probe", "fileName?"], "an unknown disk is probed once, the file name asked")
         fakeManage.uiproVideo.pushRecordFileName("/media/usb0/CSRecord/show.mp4", "show.mp4")
         compare(store.fileName, "show.mp4")
+        compare(store.rename("/media/usb0/CSRecord/show.mp4", "other"), "busy", "not the file being recorded")
         verify(store.lowDisk)
         fakeManage.uiproVideo.pushRecordingStatus(0)
         compare(fakeManage.sent, ["probe", "fileName?", "list"], "the finished file is listed")
@@ -113,13 +114,16 @@ TestCase {
     function test_listParsing_data() {
         return [{ tag: "two files", files: twoFiles, names: ["talk", "match"] },
                 { tag: "short tail left out", files: twoFiles.slice(0, 7), names: ["talk"] },
-                { tag: "empty", files: [], names: [] }]
+                { tag: "empty", files: [], names: [] },
+                { tag: "a name made to break the line or be markup", files: ["t", "two\nlines <b>x</b>", "00:00:01", "2*2", "/p"],
+                  names: ["two\nlines <b>x</b>"], labels: ["two\ufffdlines \u2039b\u203ax\u2039/b\u203a"] }]
     }
     function test_listParsing(data) {
         fakeManage.uiprocRecord.updateFileRecord(data.files)
         compare(store.recordings.map(function (r) { return r.name }), data.names)
-        if (data.names.length > 0)
-            compare(store.recordings[0], { created: "2026/11/20 10:00:00", name: "talk", length: "00:42:07",
+        compare(store.recordings.map(function (r) { return r.label }), data.labels || data.names)
+        if (data.files === twoFiles)
+            compare(store.recordings[0], { created: "2026/11/20 10:00:00", name: "talk", label: "talk", length: "00:42:07",
                                            resolution: "1920*1080", path: "/media/usb0/talk.mp4" })
     }
 
@@ -152,7 +156,7 @@ TestCase {
 
     function test_upgradeImages() {
         fakeManage.uiprocVersion.disk = 0
-        fakeManage.uiprocVersion.list = ["x.img_ZORVANE_ALPHA_", "1.0.9.img_ZORVANE_RELEASE_", "not an image",
+        fakeManage.uiprocVersion.list = [".img_ZORVANE_RELEASE_", "x.img_ZORVANE_ALPHA_", "1.0.9.img_ZORVANE_RELEASE_", "not an image",
                                          "1.1.0.img_ZORVANE_ALPHA_"]
         store.watchUpgradeDisk(true)
         compare(store.images, [{ version: "1.1.0", kind: "test", file: "ZORVANE_ALPHA_1.1.0.img" },
