@@ -146,10 +146,13 @@ QString UiproRtmp_Desktop::read_rtmp_url_from_u_file()
         consumed += qint64(qMax<size_t>(len, 1));
         if (len <= 6)
             continue;
+        // The line end as the board's files have it: LF, then a CR before
+        // that position, whether or not the LF was there.
         if (buf[len - 1] == '\n')
-            buf[--len] = '\0';
-        if (len > 0 && buf[len - 1] == '\r')
-            buf[--len] = '\0';
+            buf[len - 1] = '\0';
+        if (buf[len - 2] == '\r')
+            buf[len - 2] = '\0';
+        len = strlen(buf);
         if (printed < kMaxImportUrls) {
             // Control bytes from the disk do not reach the console as they are.
             char shown[sizeof buf];

@@ -386,8 +386,8 @@ private slots:
         QTest::newRow("no file") << QByteArray("-") << "" << QByteArray("no rtmp set file\n");
         QTest::newRow("last short line") << QByteArray("rtmp://h/1\r\nabc") << "abc" << QByteArray("url:rtmp://h/1\nget url from u disk file OK\n");
         QTest::newRow("short line keeps its LF") << QByteArray("abc\n") << "abc\n" << QByteArray("get url from u disk file OK\n");
-        QTest::newRow("CR LF cut") << QByteArray("rtmp://h/1\nrtmp://h/2\r\n") << "rtmp://h/2"
-                                   << QByteArray("url:rtmp://h/1\nurl:rtmp://h/2\nget url from u disk file OK\n");
+        QTest::newRow("CR cut before the last character without LF") << QByteArray("rtmp://h/1\nrtmp://h/2\rX") << "rtmp://h/2"
+                                                                     << QByteArray("url:rtmp://h/1\nurl:rtmp://h/2\nget url from u disk file OK\n");
         QTest::newRow("long line in pieces") << QByteArray(499, 'a') + QByteArray(10, 'b') + '\n' << "bbbbbbbbbb"
                                              << "url:" + QByteArray(499, 'a') + "\nurl:bbbbbbbbbb\nget url from u disk file OK\n";
         QTest::newRow("control bytes not printed raw") << QByteArray("rtmp://\x1b[2J/k\n") << "rtmp://\x1b[2J/k"
