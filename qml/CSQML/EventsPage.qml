@@ -164,6 +164,7 @@ Column {
                 Text {
                     width: parent.width
                     text: page.store.eventLabel(modelData.name)
+                    textFormat: Text.PlainText
                     color: Style.text
                     font.pixelSize: Style.fontNormal
                     font.bold: true

@@ -25,11 +25,23 @@ Column {
     Item {
         width: page.width
         height: Style.touch
-        InfoRow {
-            objectName: "platformsEvent"
+        Column {
             anchors { left: parent.left; right: reimport.left; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
-            name: qsTr("Event")
-            value: page.store ? page.store.eventLabel(page.store.eventName) : ""
+            Text {
+                text: qsTr("Event")
+                color: Style.textDim
+                font.pixelSize: Style.fontSmall
+            }
+            Text {
+                objectName: "platformsEvent"
+                width: parent.width
+                text: page.store ? page.store.eventLabel(page.store.eventName) : ""
+                textFormat: Text.PlainText   // a name as typed, never markup
+                color: Style.text
+                font.pixelSize: Style.fontNormal
+                font.bold: true
+                elide: Text.ElideRight
+            }
         }
         TouchButton {
             id: reimport
@@ -43,6 +55,15 @@ Column {
         }
     }
 
+    Text {
+        objectName: "platformsLeftOut"
+        width: page.width
+        visible: page.store ? page.store.leftOut > 0 : false
+        text: page.store ? qsTr("%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.", "", page.store.leftOut) : ""
+        color: Style.attention
+        font.pixelSize: Style.fontSmall
+        wrapMode: Text.WordWrap
+    }
     Text {
         objectName: "platformsEmpty"
         width: page.width
@@ -77,6 +98,7 @@ Column {
                         Text {
                             width: parent.width
                             text: modelData.url
+                            textFormat: Text.PlainText   // outside text, never markup
                             color: modelData.on ? Style.text : Style.textDim
                             font.pixelSize: Style.fontSmall
                             wrapMode: Text.WrapAnywhere

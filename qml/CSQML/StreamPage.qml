@@ -48,8 +48,10 @@ Column {
             width: (page.width - Style.gap) / 2
             height: Style.touch * 1.2
             label: qsTr("Go live")
-            detail: qsTr("%n platform(s)", "", page.livePlatforms.length)
+            detail: page.store && page.store.streaming ? qsTr("On air now") : qsTr("%n platform(s)", "", page.livePlatforms.length)
             tally: Style.onAir
+            // Live already: the channels are busy until stopped.
+            enabledState: page.store ? !page.store.streaming && page.store.phase !== "starting" : false
             onClicked: confirm.ask(qsTr("Go live now to %n platform(s) of the event “%1”?", "", page.livePlatforms.length)
                                    .arg(page.store.eventLabel(page.store.eventName)),
                                    qsTr("Go live"), function () { page.store.goLive() })
@@ -69,11 +71,23 @@ Column {
     Item {
         width: page.width
         height: Style.touch
-        InfoRow {
-            objectName: "streamEvent"
+        Column {
             anchors { left: parent.left; right: eventsButton.left; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
-            name: qsTr("Event")
-            value: page.store ? page.store.eventLabel(page.store.eventName) : ""
+            Text {
+                text: qsTr("Event")
+                color: Style.textDim
+                font.pixelSize: Style.fontSmall
+            }
+            Text {
+                objectName: "streamEvent"
+                width: parent.width
+                text: page.store ? page.store.eventLabel(page.store.eventName) : ""
+                textFormat: Text.PlainText   // a name as typed, never markup
+                color: Style.text
+                font.pixelSize: Style.fontNormal
+                font.bold: true
+                elide: Text.ElideRight
+            }
         }
         TouchButton {
             id: eventsButton

@@ -25,18 +25,19 @@ Rectangle {
         anchors { left: parent.left; leftMargin: Style.gap; right: clockText.left; rightMargin: Style.gap; top: parent.top }
         spacing: Style.gap * 2
 
-        // The four channels only while one is live; one mark otherwise.
-        readonly property bool streaming: bar.streams.some(function (s) { return s !== 0 })
+        // While streaming, a mark per live channel (the stream page shows all
+        // four); one mark otherwise. Keeps the line to one row in portrait.
         StatusChip {
             objectName: "streamOffChip"
-            visible: !marks.streaming
+            visible: !bar.streams.some(function (s) { return s !== 0 })
             text: qsTr("Stream off")
             mark: Style.off
         }
         Repeater {
-            model: marks.streaming ? 4 : 0
+            model: 4
             StatusChip {
                 objectName: "streamChip" + index
+                visible: bar.streams[index] !== 0
                 text: qsTr("CH%1").arg(index + 1) + " " + (bar.streams[index] ? qsTr("live") : qsTr("off"))
                 mark: bar.streams[index] ? Style.onAir : Style.off
             }

@@ -18,6 +18,8 @@ QtObject {
     property var events: []                // {name, start (ms, 0 = none)}, latest first
     property string refusal: ""            // why the last request was refused, "" when it was not
     property string notice: ""             // what the last event request did
+    property int leftOut: 0                // offered addresses the device could not take, this import
+    property string firstLeftOut: ""
 
     // Stream parameters as named choices. The codes are the device's: they
     // are what connectStreamParams takes and what the `rtmpMode`,
@@ -144,8 +146,17 @@ QtObject {
         imported = []
         rtmp.getPaltformUrlsByName(eventName, false)
         rtmp.getPaltformParamsByEventName(eventName)
+        leftOut = 0
+        firstLeftOut = ""
         rtmp.getAllUdiskPlatformUrl()
         rtmp.getZorPlatformUrl()
+        // One line per import, however many were left out.
+        if (leftOut > 0) {
+            var line = "stream addresses: " + leftOut + " offered address(es) left out (spaces, commas, too long or outside Latin-1), first: "
+                       + JSON.stringify(firstLeftOut.slice(0, 80))
+            console.warn(line)
+            manage.uiproc.writeLog(line)
+        }
     }
     // What the platforms page lists: the event's URLs, then the offered
     // ones it does not have yet (off until switched on).
@@ -328,6 +339,11 @@ QtObject {
         }
         function onSigSendPlatformUrl(strPlatformName, strPlatformUrl) {
             var url = String(strPlatformUrl)
+            if (store.addressProblem(url) !== "") {
+                if (store.leftOut++ === 0)
+                    store.firstLeftOut = url
+                return
+            }
             if (store.imported.some(function (p) { return p.url === url }))
                 return
             store.imported = store.imported.concat([{ name: String(strPlatformName), url: url }])

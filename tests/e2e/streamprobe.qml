@@ -68,7 +68,7 @@ Item {
         { what: "two switched on", act: function () { return touch("platformSwitch_" + probe.twitch) },
           done: function () { var b = the("platformSwitch_" + probe.twitch); return b !== null && b.checked } },
         { what: "stream page shows the event", act: function () { return touch("pageBack") },
-          done: function () { return host().current === "stream" && the("streamEvent").value === "Tomorrow show" } },
+          done: function () { return host().current === "stream" && the("streamEvent").text === "Tomorrow show" } },
         { what: "go live asks", act: function () { return touch("streamGoLive") }, done: function () { return the("streamConfirm").visible } },
         { what: "CH1 and CH2 live", act: function () { return touch("confirmAction", the("streamConfirm")) },
           done: function () { return channels() === [qsTranslate("ChannelState", "Live"), qsTranslate("ChannelState", "Live"),
@@ -89,7 +89,7 @@ Item {
             } else if (s.done()) {
                 console.log("PROBE step " + s.what + " channels=" + probe.channels())
                 if (s.what === "CH1 and CH2 live")
-                    console.log("PROBE status " + [0, 1, 2, 3].map(function (i) { var c = probe.the("streamChip" + i); return c ? c.text : "-" }).join(","))
+                    console.log("PROBE status " + [0, 1, 2, 3].map(function (i) { var c = probe.the("streamChip" + i); return c && c.visible ? c.text : "-" }).join(","))
                 probe.step++
                 probe.acted = false
                 probe.waited = 0

@@ -83,7 +83,7 @@ private slots:
         const auto done = QRegularExpression(QStringLiteral("PROBE done tomorrow18=(\\d+)")).match(out);
         QVERIFY2(done.hasMatch(), qPrintable(out.right(4000)));
         // The status line names the live channels while streaming.
-        QVERIFY2(out.contains(QStringLiteral("PROBE status CH1 live,CH2 live,CH3 off,CH4 off")), qPrintable(out.right(4000)));
+        QVERIFY2(out.contains(QStringLiteral("PROBE status CH1 live,CH2 live,-,-")), qPrintable(out.right(4000)));
 
         // The simulator was sent both addresses in one block, in list order,
         // and switched the same two off.

@@ -60,6 +60,9 @@ TestCase {
     function test_streamPageShowsStoreState() {
         var page = open(streamPage)
         compare(findChild(page, "streamStop").enabledState, false, "nothing to stop")
+        fake.streams = [0, 1, 0, 0]
+        compare([findChild(page, "streamGoLive").enabledState, findChild(page, "streamStop").enabledState], [false, true], "live: only stop")
+        fake.streams = [0, 0, 0, 0]
         fake.refusal = "No paltform is available,please select one paltform first"
         compare(findChild(page, "streamRefusal").text, fake.refusal)
         fake.states = ["live", "unconfirmed", "off", "off"]

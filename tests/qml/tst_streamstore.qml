@@ -17,6 +17,7 @@ TestCase {
             function connectStreamParams(isDefault, resolution, rate) { fakeManage.note("params " + [isDefault, resolution, rate].join(" ")) }
             function connectStreamPlatformStatus() { fakeManage.note("status?") }
             function writeInitConfig(obj) { fakeManage.note("save " + JSON.stringify(obj)) }
+            function writeLog(text) { fakeManage.note("log " + text) }
         }
         property QtObject uiproRtmp: QtObject {
             id: rtmp
@@ -97,6 +98,16 @@ TestCase {
                                  "create Show 1900000000000", "saveParams Show 1 2 3"])
         compare(rtmp.groups["Show"].params, ["1", "2", "3"])
         compare(store.platforms.map(function (p) { return p.name + " " + p.on }), ["youtube false", "Twitch true"])
+    }
+
+    function test_importLeavesOutWhatTheDeviceCannotTake() {
+        rtmp.usb = ["rtmp://ok/1", "rtmp://with space/2", "rtmp://a/3,rtmp://b/4", "rtmp://ok/1"]
+        store.openPlatforms()
+        compare(store.draft.map(function (p) { return p.url }), ["rtmp://ok/1"])
+        compare(store.leftOut, 2)
+        compare(fakeManage.log.filter(function (l) { return l.indexOf("log ") === 0 }),
+                ['log stream addresses: 2 offered address(es) left out (spaces, commas, too long or outside Latin-1), first: "rtmp://with space/2"'],
+                "one line for the whole import")
     }
 
     function test_goLive_data() {
