@@ -1,5 +1,6 @@
 #include "UiproRecord_Desktop.h"
 
+#include "FfmpegLibrary.h"
 #include "LineThrottle.h"
 #include "LogCategories.h"
 #include "Logger.h"
@@ -21,11 +22,6 @@
 #include <sys/stat.h>
 #include <sys/statfs.h>
 #include <unistd.h>
-
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
-}
 
 // Shared with the listing job, which may outlive the object (the window
 // closes while a slow disk is read): results are posted only while it lives.
@@ -74,17 +70,22 @@ void quietFfmpegLog(void *, int level, const char *fmt, va_list args)
     int held = 0;
     char line[512];
     int prefix = 1;
-    av_log_format_line(nullptr, level, fmt, args, line, sizeof line, &prefix);
+    Ffmpeg::api()->av_log_format_line(nullptr, level, fmt, args, line, sizeof line, &prefix);
     if (!throttle.admit(&held))
         return;
     qCWarning(lcHardware).noquote() << "ffmpeg:" << LineThrottle::shown(QString::fromLocal8Bit(line).trimmed(), 200)
                                     << (held ? QStringLiteral("(%1 more since the last message)").arg(held) : QString());
 }
 
-void installFfmpegLog()
+// The libraries, loaded on first use (a listing's worker thread waits for
+// that, not the GUI thread); nullptr when they are missing.
+const FfmpegApi *ffmpeg()
 {
+    const FfmpegApi *ff = Ffmpeg::api();
     static std::once_flag once;
-    std::call_once(once, [] { av_log_set_callback(quietFfmpegLog); });
+    if (ff)
+        std::call_once(once, [ff] { ff->av_log_set_callback(quietFfmpegLog); });
+    return ff;
 }
 
 bool usbPresent()
@@ -145,21 +146,20 @@ QString creationText(const QByteArray &localPath)
 
 // Opens a container for reading its parameters: local files only (no
 // protocol named inside a file name), then its stream information.
-AVFormatContext *openContainer(const QByteArray &localPath)
+AVFormatContext *openContainer(const FfmpegApi &ff, const QByteArray &localPath)
 {
-    installFfmpegLog();
-    AVFormatContext *ctx = avformat_alloc_context();
+    AVFormatContext *ctx = ff.avformat_alloc_context();
     if (!ctx)
         return nullptr;
     AVDictionary *options = nullptr;
-    av_dict_set(&options, "protocol_whitelist", "file", 0);
+    ff.av_dict_set(&options, "protocol_whitelist", "file", 0);
     const QByteArray url = QByteArrayLiteral("file:") + localPath;
-    const int rc = avformat_open_input(&ctx, url.constData(), nullptr, &options); // frees ctx on failure
-    av_dict_free(&options);
+    const int rc = ff.avformat_open_input(&ctx, url.constData(), nullptr, &options); // frees ctx on failure
+    ff.av_dict_free(&options);
     if (rc != 0)
         return nullptr;
-    if (avformat_find_stream_info(ctx, nullptr) < 0) {
-        avformat_close_input(&ctx);
+    if (ff.avformat_find_stream_info(ctx, nullptr) < 0) {
+        ff.avformat_close_input(&ctx);
         return nullptr;
     }
     return ctx;
@@ -176,35 +176,38 @@ qint64 durationSeconds(const AVFormatContext *ctx)
 // container. The path is the file system's raw bytes, so any name opens.
 QStringList describeFile(const QByteArray &localPath)
 {
-    AVFormatContext *ctx = openContainer(localPath);
-    if (!ctx) {
+    const QString path = QFile::decodeName(localPath);
+    const FfmpegApi *ff = ffmpeg();
+    AVFormatContext *ctx = ff ? openContainer(*ff, localPath) : nullptr;
+    if (ff && !ctx) {
         logBadFile("open record file failed", localPath);
         return {};
     }
-    const qint64 seconds = durationSeconds(ctx);
+    // Without the libraries (their absence is logged once) a file is still
+    // listed, with no length and no picture size.
+    const qint64 seconds = ctx ? durationSeconds(ctx) : 0;
     // Only a video stream 0 has a picture size; audio-only or data-only
     // files list as "0*0", which the screens show as no picture.
     int width = 0, height = 0;
-    if (ctx->nb_streams > 0) {
+    if (ctx && ctx->nb_streams > 0) {
         const AVCodecParameters *par = ctx->streams[0]->codecpar;
-        const AVCodec *codec = avcodec_find_decoder(par->codec_id);
-        AVCodecContext *cc = codec ? avcodec_alloc_context3(codec) : nullptr;
+        const AVCodec *codec = ff->avcodec_find_decoder(par->codec_id);
+        AVCodecContext *cc = codec ? ff->avcodec_alloc_context3(codec) : nullptr;
         if (!codec)
             logBadFile("failed to find decoder for stream", localPath);
         else if (!cc)
             logBadFile("falied to allocate the decoder context for stream", localPath);
-        else if (avcodec_parameters_to_context(cc, par) < 0)
+        else if (ff->avcodec_parameters_to_context(cc, par) < 0)
             logBadFile("failed to copy decoder paramters to input decoder context for stream", localPath);
         if (par->codec_type == AVMEDIA_TYPE_VIDEO) {
             width = std::max(0, par->width);
             height = std::max(0, par->height);
             qCDebug(lcHardware) << "record size" << width << height;
         }
-        avcodec_free_context(&cc);
+        ff->avcodec_free_context(&cc);
     }
-    avformat_close_input(&ctx);
-
-    const QString path = QFile::decodeName(localPath);
+    if (ctx)
+        ff->avformat_close_input(&ctx);
     return {creationText(localPath), QFileInfo(path).completeBaseName(), lengthText(seconds),
             QStringLiteral("%1*%2").arg(width).arg(height), devicePath(path)};
 }
@@ -349,14 +352,17 @@ int UiproRecord_Desktop::get_cur_record_file_time(QString filePath)
     qCDebug(lcHardware).noquote() << "record time of" << LineThrottle::shown(filePath, 300);
     if (filePath.isEmpty())
         return 0;
+    const FfmpegApi *ff = ffmpeg();
+    if (!ff)
+        return 0;
     const QByteArray local = QFile::encodeName(Platform::path(filePath));
-    AVFormatContext *ctx = openContainer(local);
+    AVFormatContext *ctx = openContainer(*ff, local);
     if (!ctx) {
         logBadFile("open record file failed", local);
         return 0;
     }
     const qint64 seconds = durationSeconds(ctx);
-    avformat_close_input(&ctx);
+    ff->avformat_close_input(&ctx);
     return int(std::min<qint64>(seconds, std::numeric_limits<int>::max()));
 }
 
