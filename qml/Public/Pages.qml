@@ -29,9 +29,9 @@ QtObject {
     ]
     // Pages opened from another page (and back to it), not from the menu.
     readonly property var sub: [
-        { name: "platforms", title: qsTr("Stream addresses"), hint: qsTr("Import, type, switch on"),
+        { name: "platforms", title: qsTr("Addresses"), hint: qsTr("Import, type, switch on"),
           store: "stream", source: Qt.resolvedUrl("../CSQML/PlatformsPage.qml"), back: "stream" },
-        { name: "events", title: qsTr("Streaming events"), hint: qsTr("Create, choose, delete"),
+        { name: "events", title: qsTr("Events"), hint: qsTr("Create, choose, delete"),
           store: "stream", source: Qt.resolvedUrl("../CSQML/EventsPage.qml"), back: "stream" }
     ]
 

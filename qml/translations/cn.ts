@@ -774,20 +774,20 @@
         <translation>活动、平台、开始直播</translation>
     </message>
     <message>
-        <source>Stream addresses</source>
-        <translation>推流地址</translation>
-    </message>
-    <message>
         <source>Import, type, switch on</source>
         <translation>导入、输入、启用</translation>
     </message>
     <message>
-        <source>Streaming events</source>
-        <translation>直播活动</translation>
-    </message>
-    <message>
         <source>Create, choose, delete</source>
         <translation>创建、选择、删除</translation>
+    </message>
+    <message>
+        <source>Addresses</source>
+        <translation>推流地址</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>直播活动</translation>
     </message>
 </context>
 <context>

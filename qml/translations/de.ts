@@ -775,20 +775,20 @@
         <translation>Event, Plattformen, live gehen</translation>
     </message>
     <message>
-        <source>Stream addresses</source>
-        <translation>Stream-Adressen</translation>
-    </message>
-    <message>
         <source>Import, type, switch on</source>
         <translation>Importieren, eingeben, einschalten</translation>
     </message>
     <message>
-        <source>Streaming events</source>
-        <translation>Streaming-Events</translation>
-    </message>
-    <message>
         <source>Create, choose, delete</source>
         <translation>Anlegen, wählen, löschen</translation>
+    </message>
+    <message>
+        <source>Addresses</source>
+        <translation>Adressen</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
     </message>
 </context>
 <context>

@@ -775,20 +775,20 @@
         <translation>Event, platforms, go live</translation>
     </message>
     <message>
-        <source>Stream addresses</source>
-        <translation>Stream addresses</translation>
-    </message>
-    <message>
         <source>Import, type, switch on</source>
         <translation>Import, type, switch on</translation>
     </message>
     <message>
-        <source>Streaming events</source>
-        <translation>Streaming events</translation>
-    </message>
-    <message>
         <source>Create, choose, delete</source>
         <translation>Create, choose, delete</translation>
+    </message>
+    <message>
+        <source>Addresses</source>
+        <translation>Addresses</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
     </message>
 </context>
 <context>
