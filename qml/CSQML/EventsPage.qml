@@ -186,14 +186,14 @@ Column {
                 spacing: Style.gap / 2
                 TouchButton {
                     objectName: "eventUse_" + modelData.name
-                    width: Style.touch * 1.5
+                    width: Style.touch * 1.7
                     label: inUse ? qsTr("In use") : qsTr("Use")
                     checked: inUse
                     onClicked: if (!inUse) page.store.chooseEvent(modelData.name)
                 }
                 TouchButton {
                     objectName: "eventDelete_" + modelData.name
-                    width: Style.touch * 1.5
+                    width: Style.touch * 1.7
                     visible: modelData.name !== "Current"
                     label: qsTr("Delete")
                     onClicked: {

@@ -420,11 +420,11 @@
     </message>
     <message>
         <source>In use</source>
-        <translation>In Verwendung</translation>
+        <translation>Gewählt</translation>
     </message>
     <message>
         <source>Use</source>
-        <translation>Verwenden</translation>
+        <translation>Wählen</translation>
     </message>
     <message>
         <source>Delete</source>
