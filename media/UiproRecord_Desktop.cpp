@@ -19,7 +19,9 @@
 #include <fcntl.h>
 #include <limits>
 #include <mutex>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/statfs.h>
 #include <unistd.h>
 
@@ -248,6 +250,18 @@ QStringList listRecordings(const QString &mount)
     return list;
 }
 
+// Listings have their own worker, never joined (as the other detached
+// work of the program): a slow disk does not hold up the shared pool or exit.
+QThreadPool &listingPool()
+{
+    static QThreadPool *pool = [] {
+        auto *p = new QThreadPool;
+        p->setMaxThreadCount(1);
+        return p;
+    }();
+    return *pool;
+}
+
 bool statfsQuery(const QString &path, UiproRecord_Desktop::FreeSpace *out)
 {
     struct statfs fs;
@@ -303,6 +317,11 @@ double UiproRecord_Desktop::check_is_usb_disk_ok_for_record()
     return usable;
 }
 
+bool UiproRecord_Desktop::waitForListings(int msecs)
+{
+    return listingPool().waitForDone(msecs);
+}
+
 void UiproRecord_Desktop::connect_get_usb_record_files()
 {
     {
@@ -315,7 +334,11 @@ void UiproRecord_Desktop::connect_get_usb_record_files()
         m_listing->running = true;
     }
     std::shared_ptr<RecordListingState> state = m_listing;
-    QThreadPool::globalInstance()->start([state] {
+    listingPool().start([state] {
+        // Reading a disk full of files is background work: under load the
+        // GUI thread gets the processor first.
+        static thread_local const bool niced = ::setpriority(PRIO_PROCESS, pid_t(::syscall(SYS_gettid)), 10) == 0;
+        Q_UNUSED(niced)
         for (;;) {
             const QStringList list = listRecordings(findUsbDisk());
             QMutexLocker lock(&state->mutex);

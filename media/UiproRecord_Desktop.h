@@ -40,6 +40,9 @@ public:
     // Replaces statfs for this object (tests); an empty function restores it.
     void setFileSystemQuery(FileSystemQuery query);
 
+    // Waits until no threaded listing runs (tests, benchmarks); false on time-out.
+    static bool waitForListings(int msecs);
+
     // The mount point the last disk search found (a real path), "" if none.
     QString mountPath() const { return m_mountPath; }
 

@@ -326,7 +326,7 @@ void TstRecord::threadedListing()
     for (int i = 0; i < 5; ++i)
         record->connect_get_usb_record_files();
     QTRY_VERIFY(!lists.isEmpty());
-    QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
+    QVERIFY(UiproRecord_Desktop::waitForListings(30000));
     QCoreApplication::processEvents();
     QVERIFY(lists.size() <= 2);
     QCOMPARE(receivedOn, QThread::currentThread());
@@ -338,7 +338,7 @@ void TstRecord::threadedListing()
         record = new UiproRecord_Desktop;
     }
     delete record;
-    QVERIFY(QThreadPool::globalInstance()->waitForDone(60000));
+    QVERIFY(UiproRecord_Desktop::waitForListings(60000));
     QCoreApplication::processEvents();
 }
 
