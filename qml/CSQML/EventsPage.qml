@@ -3,9 +3,9 @@ import QtQuick.Window 2.15
 import "../Public"
 import "../CONTROLS"
 
-// Streaming events: create one with a name and a start time, choose the
-// one going live uses, delete one (asked once, by name). The list is
-// latest first, each with the time left until its start.
+// Streaming events: the list first (latest first, each with the time left
+// until its start), to choose the one going live uses or delete one (asked
+// once, by name); below it a new event with a name and a start time.
 Column {
     id: page
     property var store
@@ -57,6 +57,72 @@ Column {
     function create() {
         if (store.createEvent(nameField.text, chosenStart()))
             nameField.text = ""
+    }
+
+    Text {
+        width: page.width
+        text: qsTr("Events, latest first")
+        color: Style.text
+        font.pixelSize: Style.fontNormal
+        font.bold: true
+    }
+    Repeater {
+        model: page.store ? page.store.events : []
+        Rectangle {
+            objectName: "eventRow_" + modelData.name
+            readonly property bool inUse: page.store.eventName === modelData.name
+            width: page.width
+            height: Math.max(Style.touch, info.implicitHeight) + Style.gap
+            radius: Style.radius
+            color: Style.surface
+            border.width: inUse ? 3 : 1
+            border.color: inUse ? Style.accent : Style.outline
+            Column {
+                id: info
+                anchors { left: parent.left; leftMargin: Style.gap; right: buttons.left; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
+                Text {
+                    width: parent.width
+                    text: page.store.eventLabel(modelData.name)
+                    textFormat: Text.PlainText
+                    color: Style.text
+                    font.pixelSize: Style.fontNormal
+                    font.bold: true
+                    elide: Text.ElideRight
+                }
+                Text {
+                    objectName: "eventCountdown"
+                    width: parent.width
+                    text: (modelData.start ? Qt.formatDateTime(new Date(modelData.start), "yyyy-MM-dd hh:mm") + "  " : "")
+                          + page.countdown(modelData.start, page.nowMs)
+                    color: modelData.start && modelData.start <= page.nowMs ? Style.attention : Style.textDim
+                    font.pixelSize: Style.fontSmall
+                    wrapMode: Text.WordWrap
+                }
+            }
+            Row {
+                id: buttons
+                anchors { right: parent.right; rightMargin: Style.gap / 2; verticalCenter: parent.verticalCenter }
+                spacing: Style.gap / 2
+                TouchButton {
+                    objectName: "eventUse_" + modelData.name
+                    width: Style.touch * 1.7
+                    label: inUse ? qsTr("In use") : qsTr("Use")
+                    checked: inUse
+                    onClicked: if (!inUse) page.store.chooseEvent(modelData.name)
+                }
+                TouchButton {
+                    objectName: "eventDelete_" + modelData.name
+                    width: Style.touch * 1.7
+                    visible: modelData.name !== "Current"
+                    label: qsTr("Delete")
+                    onClicked: {
+                        var name = modelData.name
+                        confirm.ask(qsTr("Delete the event “%1” with its addresses and settings?").arg(name),
+                                    qsTr("Delete event"), function () { page.store.deleteEvent(name) })
+                    }
+                }
+            }
+        }
     }
 
     Text {
@@ -138,72 +204,6 @@ Column {
         label: qsTr("Create event")
         detail: Qt.formatDateTime(new Date(page.chosenStart()), "yyyy-MM-dd hh:mm")
         onClicked: page.create()
-    }
-
-    Text {
-        width: page.width
-        text: qsTr("Events, latest first")
-        color: Style.text
-        font.pixelSize: Style.fontNormal
-        font.bold: true
-    }
-    Repeater {
-        model: page.store ? page.store.events : []
-        Rectangle {
-            objectName: "eventRow_" + modelData.name
-            readonly property bool inUse: page.store.eventName === modelData.name
-            width: page.width
-            height: Math.max(Style.touch, info.implicitHeight) + Style.gap
-            radius: Style.radius
-            color: Style.surface
-            border.width: inUse ? 3 : 1
-            border.color: inUse ? Style.accent : Style.outline
-            Column {
-                id: info
-                anchors { left: parent.left; leftMargin: Style.gap; right: buttons.left; rightMargin: Style.gap; verticalCenter: parent.verticalCenter }
-                Text {
-                    width: parent.width
-                    text: page.store.eventLabel(modelData.name)
-                    textFormat: Text.PlainText
-                    color: Style.text
-                    font.pixelSize: Style.fontNormal
-                    font.bold: true
-                    elide: Text.ElideRight
-                }
-                Text {
-                    objectName: "eventCountdown"
-                    width: parent.width
-                    text: (modelData.start ? Qt.formatDateTime(new Date(modelData.start), "yyyy-MM-dd hh:mm") + "  " : "")
-                          + page.countdown(modelData.start, page.nowMs)
-                    color: modelData.start && modelData.start <= page.nowMs ? Style.attention : Style.textDim
-                    font.pixelSize: Style.fontSmall
-                    wrapMode: Text.WordWrap
-                }
-            }
-            Row {
-                id: buttons
-                anchors { right: parent.right; rightMargin: Style.gap / 2; verticalCenter: parent.verticalCenter }
-                spacing: Style.gap / 2
-                TouchButton {
-                    objectName: "eventUse_" + modelData.name
-                    width: Style.touch * 1.7
-                    label: inUse ? qsTr("In use") : qsTr("Use")
-                    checked: inUse
-                    onClicked: if (!inUse) page.store.chooseEvent(modelData.name)
-                }
-                TouchButton {
-                    objectName: "eventDelete_" + modelData.name
-                    width: Style.touch * 1.7
-                    visible: modelData.name !== "Current"
-                    label: qsTr("Delete")
-                    onClicked: {
-                        var name = modelData.name
-                        confirm.ask(qsTr("Delete the event “%1” with its addresses and settings?").arg(name),
-                                    qsTr("Delete event"), function () { page.store.deleteEvent(name) })
-                    }
-                }
-            }
-        }
     }
 
     ConfirmDialog {
