@@ -52,9 +52,10 @@ Column {
             tally: Style.onAir
             // Live already: the channels are busy until stopped.
             enabledState: page.store ? !page.store.streaming && page.store.phase !== "starting" : false
-            onClicked: confirm.ask(qsTr("Go live now to %n platform(s) of the event “%1”?", "", page.livePlatforms.length)
-                                   .arg(page.store.eventLabel(page.store.eventName)),
-                                   qsTr("Go live"), function () { page.store.goLive() })
+            onClicked: if (page.store.readyToGoLive())
+                           confirm.ask(qsTr("Go live now to %n platform(s) of the event “%1”?", "", page.livePlatforms.length)
+                                       .arg(page.store.eventLabel(page.store.eventName)),
+                                       qsTr("Go live"), function () { page.store.goLive() })
         }
         TouchButton {
             objectName: "streamStop"

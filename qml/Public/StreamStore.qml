@@ -279,14 +279,16 @@ QtObject {
     }
 
     // ---- Going live and stopping.
-    function goLive() {
+    // The address block going live would send, or "" with `refusal` saying
+    // why not. Asked before the confirmation too, so a refusal needs no "yes".
+    function liveAddressOrRefusal() {
         if (!rtmp || !manage) {
             refusal = qsTr("Streaming is not available now.")
-            return false
+            return ""
         }
         if (rtmp.getAvailablePaltformNumByName(eventName) === 0) {
             refusal = qsTr("No paltform is available,please select one paltform first")
-            return false
+            return ""
         }
         // One address block carries every enabled URL, comma-separated; the
         // device puts them on its channels CH1.. in that order.
@@ -300,8 +302,14 @@ QtObject {
             refusal = qsTr("A stream address cannot hold spaces, commas or characters outside Latin-1.")
         else
             refusal = ""
-        if (refusal !== "")
+        return refusal === "" ? address : ""
+    }
+    function readyToGoLive() { return liveAddressOrRefusal() !== "" }
+    function goLive() {
+        var address = liveAddressOrRefusal()
+        if (address === "")
             return false
+        var urls = address.split(",")
         manage.uiproc.connectStreamParams(choice(models, model).device, choice(resolutions, resolution).device,
                                           choice(bitrates, bitrate).device)
         manage.uiproc.connectStreamOnAir(1, address, true)

@@ -36,6 +36,7 @@ QtObject {
     function createEvent(name, ms) { record("createEvent " + name + " " + ms); return accept }
     function chooseEvent(name) { record("chooseEvent " + name) }
     function deleteEvent(name) { record("deleteEvent " + name) }
+    function readyToGoLive() { return accept }
     function goLive() { record("goLive"); return accept }
     function stop() { record("stop") }
 }

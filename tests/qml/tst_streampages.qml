@@ -42,15 +42,19 @@ TestCase {
     function test_liveActionsAskFirst_data() {
         return [{ tag: "go live, confirmed", button: "streamGoLive", answer: "confirmAction", streams: [0, 0, 0, 0], calls: ["goLive"], action: "Go live" },
                 { tag: "go live, cancelled", button: "streamGoLive", answer: "confirmCancel", streams: [0, 0, 0, 0], calls: [], action: "Go live" },
-                { tag: "stop, confirmed", button: "streamStop", answer: "confirmAction", streams: [1, 0, 0, 0], calls: ["stop"], action: "Stop streaming" }]
+                { tag: "stop, confirmed", button: "streamStop", answer: "confirmAction", streams: [1, 0, 0, 0], calls: ["stop"], action: "Stop streaming" },
+                { tag: "go live refused: nothing to confirm", button: "streamGoLive", answer: "", streams: [0, 0, 0, 0], calls: [], action: "" }]
     }
     function test_liveActionsAskFirst(data) {
         fake.streams = data.streams
+        fake.accept = data.answer !== ""
         var page = open(streamPage)
         compare(fake.calls, ["refresh"])
         fake.calls = []
         mouseClick(findChild(page, data.button))
-        verify(page.confirm.visible)
+        compare(page.confirm.visible, data.answer !== "")
+        if (data.answer === "")
+            return
         compare(page.confirm.actionText, qsTranslate("StreamPage", data.action))
         compare(findChild(page.confirm, "confirmCancel").checked, true, "the safe choice is the default")
         mouseClick(findChild(page.confirm, data.answer))
