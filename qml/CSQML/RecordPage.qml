@@ -43,6 +43,9 @@ Column {
         editing = entry.path
         renameProblem = ""
         nameField.text = entry.name
+        // Place the editor now, so the page can scroll it above the keyboard
+        // that the focus brings up.
+        forceLayout()
         nameField.input.forceActiveFocus()
     }
     function finishRename() {
@@ -174,34 +177,27 @@ Column {
             }
         }
     }
-    // The rename editor, under the list so the keyboard has room.
+    // The rename editor, under the list, its field last: the page scrolls
+    // the field above the keyboard, with the message and buttons in view.
     Column {
         objectName: "renameEditor"
         width: page.width
         spacing: Style.gap / 2
         visible: page.editing !== ""
-        Text {
-            width: page.width
-            text: qsTr("New name (the file keeps its .mp4 ending)")
-            color: Style.textDim
-            font.pixelSize: Style.fontSmall
-            wrapMode: Text.WordWrap
-        }
-        NameField {
-            id: nameField
-            objectName: "renameField"
-            width: page.width
-            problem: page.renameProblem !== ""
-            onAccepted: page.finishRename()
-        }
+        // The hint, or why the name was refused, in room for two lines so
+        // that the field below does not move under the keyboard.
         Text {
             objectName: "renameMessage"
             width: page.width
-            visible: text !== ""
-            text: page.renameProblem !== "" ? page.renameTexts[page.renameProblem] || "" : ""
-            color: Style.attention
+            height: Style.fontSmall * 2.8
+            verticalAlignment: Text.AlignBottom
+            text: page.renameProblem !== "" ? page.renameTexts[page.renameProblem] || ""
+                  : qsTr("New name (the file keeps its .mp4 ending)")
+            color: page.renameProblem !== "" ? Style.attention : Style.textDim
             font.pixelSize: Style.fontSmall
             wrapMode: Text.WordWrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
         }
         Row {
             spacing: Style.gap
@@ -217,6 +213,13 @@ Column {
                 label: qsTr("Cancel")
                 onClicked: page.cancelRename()
             }
+        }
+        NameField {
+            id: nameField
+            objectName: "renameField"
+            width: page.width
+            problem: page.renameProblem !== ""
+            onAccepted: page.finishRename()
         }
     }
 
