@@ -4,7 +4,7 @@ import QtQuick 2.15
 // may start and how long it can run, the recordings on the disk (rename,
 // playback) and the upgrade images. Views read it; only this store calls
 // the native objects. Starting and stopping stay in the live store, which
-// the main screen shares; this store adds the disk probe in front.
+// probes the disk before every start; this store hears the result.
 QtObject {
     id: store
     property var manage
@@ -94,7 +94,7 @@ QtObject {
     property Timer relist: Timer { interval: 2000; onTriggered: store.refreshRecordings() }
 
     // --- recordings ------------------------------------------------------
-    property var recordings: []       // { created, name, length, resolution, path }
+    property var recordings: []       // { created, name, label (for the screen), length, resolution, path }
     property bool listing: false
     function refreshRecordings() {
         if (!recorder)
