@@ -3,6 +3,7 @@
 #include "LogCategories.h"
 #include "UiProc.h"
 #include "UiprocImageShow.h"
+#include "UiproBluetooth_Desktop.h"
 #include "UiprocMain_Desktop.h"
 #include "UiprocNetwork.h"
 #include "UiprocPublic.h"
@@ -54,7 +55,7 @@ void registerQmlTypes()
     qmlRegisterType<UiproRecord_Desktop>("xpose.UiproRecordDesktop", 1, 0, "UiproRecord_Desktop");
     qmlRegisterType<UiproVersion_Desktop>("xpose.UiproVersionDesktop", 1, 0, "UiproVersion_Desktop");
     qmlRegisterType<UiproRtmp_Desktop>("xpose.UiproRtmpDesktop", 1, 0, "UiproRtmp_Desktop");
-    // Registered as its class lands: UiproBluetooth_Desktop.
+    qmlRegisterType<UiproBluetooth_Desktop>("xpose.UiproBluetoothDesktop", 1, 0, "UiproBluetooth_Desktop");
 }
 
 bool isWatchStart(const QStringList &arguments)

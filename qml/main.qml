@@ -104,6 +104,7 @@ Window {
         manage.uiproc.connectGetInputSignalFormat()
         manage.uiproNetwork.initNetwork()
         manage.uiproNetwork.getIpAddress(0)
+        manage.uiproBluetooth.getBlueData()
         board = boardStore.createObject(window, { manage: manage })
         board.start(settings)
         system.requestLibraryInfo()

@@ -10,6 +10,7 @@ import xpose.UiprocNetwork 1.0
 import xpose.UiproRecordDesktop 1.0
 import xpose.UiproVersionDesktop 1.0
 import xpose.UiproRtmpDesktop 1.0
+import xpose.UiproBluetoothDesktop 1.0
 
 // The one place that owns the native objects; views reach them through these properties.
 Item {
@@ -25,6 +26,7 @@ Item {
     property alias uiprocRecord: uiproRecord_Desktop
     property alias uiprocVersion: uiproVersion_Desktop
     property alias uiproRtmp: uiproRtmp_Desktop
+    property alias uiproBluetooth: uiproBluetooth_Desktop
 
     UiproGetImageShareData_Desktop { id: uiprocGetImageShareData_Desktop }
     UiproGetAudioShareData_Desktop { id: uiprocGetAudioShareData_Desktop }
@@ -36,4 +38,5 @@ Item {
     UiproRecord_Desktop { id: uiproRecord_Desktop }
     UiproVersion_Desktop { id: uiproVersion_Desktop }
     UiproRtmp_Desktop { id: uiproRtmp_Desktop }
+    UiproBluetooth_Desktop { id: uiproBluetooth_Desktop }
 }
