@@ -143,6 +143,8 @@ Column {
         namePrefix: "streamModel"
         options: page.store ? page.store.models : []
         current: page.store ? page.store.model : -1
+        // The device takes parameters as it goes live; not while it is live.
+        active: page.store ? !page.store.streaming : false
         onChosen: page.store.setParameters(code, page.store.resolution, page.store.bitrate)
     }
     ChoiceRow {
@@ -152,7 +154,7 @@ Column {
         options: page.store ? page.store.resolutions : []
         current: page.store ? page.store.resolution : -1
         // The device picks its own resolution and bitrate by default.
-        active: page.store ? page.store.model !== 0 : false
+        active: page.store ? page.store.model !== 0 && !page.store.streaming : false
         onChosen: page.store.setParameters(page.store.model, code, page.store.bitrate)
     }
     ChoiceRow {
@@ -161,7 +163,7 @@ Column {
         namePrefix: "streamBitrate"
         options: page.store ? page.store.bitrates : []
         current: page.store ? page.store.bitrate : -1
-        active: page.store ? page.store.model !== 0 : false
+        active: page.store ? page.store.model !== 0 && !page.store.streaming : false
         onChosen: page.store.setParameters(page.store.model, page.store.resolution, code)
     }
 

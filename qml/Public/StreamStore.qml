@@ -67,8 +67,8 @@ QtObject {
         return "off"
     }
     onStreamsChanged: {
-        var live = streams.filter(function (s) { return s !== 0 }).length
-        if (phase === "stopping" ? live === 0 : phase !== "" && live >= expected)
+        var liveCount = streams.filter(function (s) { return s !== 0 }).length
+        if (phase === "stopping" ? liveCount === 0 : phase !== "" && liveCount >= expected)
             phase = ""
     }
     property Timer confirmWait: Timer {
