@@ -6,6 +6,8 @@
 #   CS_SCREENSHOT=FILE    save a screenshot of the window after CS_SCREENSHOT_AFTER_MS (default 5000)
 #   CS_QUIT_AFTER_MS=N    quit after N ms (unattended runs)
 #   CS_SIM_ARGS="..."     extra simulator options (e.g. "--size 1920x1080 --fps 60 --script FILE")
+#   CS_PHONE_ARGS="..."   options of the phone on /dev/rfcomm0 (default "--hold": answers only;
+#                         e.g. "--send-after 10 --stop-after 60" hands over a destination, then stops)
 set -e
 top=$(cd "$(dirname "$0")/.." && pwd)
 "$top/scripts/install-deps.sh"
@@ -16,7 +18,11 @@ export CS_SYSROOT="$("$top/scripts/prepare-sysroot.sh" "${CS_RUN_DIR:-$top/.sysr
 # shellcheck disable=SC2086
 "$build/sim/cs-mediasim" ${CS_SIM_ARGS:-} &
 sim=$!
-trap 'kill $sim 2>/dev/null; wait $sim 2>/dev/null || true' EXIT INT TERM
+# The companion phone: a pseudo-terminal linked as the sysroot's /dev/rfcomm0.
+# shellcheck disable=SC2086
+"$build/sim/cs-phone" ${CS_PHONE_ARGS:---hold} </dev/null &
+phone=$!
+trap 'kill $sim $phone 2>/dev/null; wait $sim $phone 2>/dev/null || true' EXIT INT TERM
 
 if [ -z "$DISPLAY" ] && [ -z "$WAYLAND_DISPLAY" ] && [ "${QT_QPA_PLATFORM:-}" != offscreen ]; then
   # Xvfb has no GPU: Qt Quick's software renderer shows more frames for less CPU than GL on llvmpipe.
