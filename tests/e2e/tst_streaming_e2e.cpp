@@ -94,8 +94,11 @@ private slots:
         QVERIFY(!simOut.contains(facebook));
 
         // The event keeps its start time after its addresses were saved.
-        const qint64 tomorrow18 = QDateTime(QDate::currentDate().addDays(1), QTime(18, 0)).toMSecsSinceEpoch();
-        QCOMPARE(done.captured(1).toLongLong(), tomorrow18);
+        // Tomorrow as the probe saw it (a run across midnight sees two days).
+        const qint64 tomorrow18 = done.captured(1).toLongLong();
+        const QDateTime start = QDateTime::fromMSecsSinceEpoch(tomorrow18);
+        QCOMPARE(start.time(), QTime(18, 0));
+        QVERIFY(start.date() == QDate::currentDate().addDays(1) || start.date() == QDate::currentDate());
         QSettings events(root.path(QStringLiteral("/usr/bin/config/CS_event.ini")), QSettings::IniFormat);
         events.setIniCodec("UTF-8");
         events.beginGroup(QStringLiteral("Tomorrow show"));
