@@ -840,8 +840,8 @@
     <message numerus="yes">
         <source>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</source>
         <translation>
-            <numerusform>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</numerusform>
-            <numerusform>%n address(es) offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</numerusform>
+            <numerusform>%n address offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</numerusform>
+            <numerusform>%n addresses offered by the disk or the app left out: spaces, commas, characters outside Latin-1 or too long.</numerusform>
         </translation>
     </message>
 </context>
@@ -1120,15 +1120,15 @@
     <message numerus="yes">
         <source>%n platform(s)</source>
         <translation>
-            <numerusform>%n platform(s)</numerusform>
-            <numerusform>%n platform(s)</numerusform>
+            <numerusform>%n platform</numerusform>
+            <numerusform>%n platforms</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Go live now to %n platform(s) of the event “%1”?</source>
         <translation>
-            <numerusform>Go live now to %n platform(s) of the event “%1”?</numerusform>
-            <numerusform>Go live now to %n platform(s) of the event “%1”?</numerusform>
+            <numerusform>Go live now to %n platform of the event “%1”?</numerusform>
+            <numerusform>Go live now to %n platforms of the event “%1”?</numerusform>
         </translation>
     </message>
     <message>
