@@ -20,6 +20,9 @@ Window {
     // The board's store is made with the device start, after the first frame.
     property var board: null
     Component { id: boardStore; BoardStore {} }
+    // The companion link's store, made with the device start like the board's.
+    property var companion: null
+    Component { id: companionStore; CompanionStore {} }
     StreamStore { id: stream; manage: manage; live: live }
     MediaStore { id: media; manage: manage; live: live; board: window.board; currentVersion: system.about.version || "" }
     // A start the disk refused, from wherever it was asked, is explained on
@@ -34,13 +37,20 @@ Window {
         ignoreUnknownSignals: true
         function onBridgeUpgradeChanged() { if (window.board.bridgeUpgrade === 0) mainView.pages.show("upgrade") }
     }
+    // What the companion app sends waits for the operator on the Bluetooth page.
+    Connections {
+        target: window.companion
+        ignoreUnknownSignals: true
+        function onOfferChanged() { if (window.companion.offer) mainView.pages.show("bluetooth") }
+        function onStopAskedChanged() { if (window.companion.stopAsked) mainView.pages.show("bluetooth") }
+    }
 
     MainView {
         id: mainView
         objectName: "mainView"
         anchors.fill: parent
         store: live
-        pageStores: ({ live: live, system: system, board: board, media: media, stream: stream })
+        pageStores: ({ live: live, system: system, board: board, media: media, stream: stream, companion: companion })
         upgrading: media.upgrading
         keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
     }
@@ -107,6 +117,8 @@ Window {
         manage.uiproBluetooth.getBlueData()
         board = boardStore.createObject(window, { manage: manage })
         board.start(settings)
+        companion = companionStore.createObject(window, { manage: manage, live: live, stream: stream })
+        companion.start(settings)
         system.requestLibraryInfo()
         manage.uiproc.initFinished()
         live.start()

@@ -25,7 +25,9 @@ QtObject {
         { name: "upgrade", title: qsTr("Upgrade"), hint: qsTr("New software from a USB disk"),
           store: "media", source: Qt.resolvedUrl("../CSQML/UpgradePage.qml") },
         { name: "stream", title: qsTr("Streaming"), hint: qsTr("Event, platforms, go live"),
-          store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") }
+          store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") },
+        { name: "bluetooth", title: qsTr("Bluetooth"), hint: qsTr("Devices, companion app"),
+          store: "companion", source: Qt.resolvedUrl("../CSQML/BluetoothPage.qml") }
     ]
     // Pages opened from another page (and back to it), not from the menu.
     readonly property var sub: [

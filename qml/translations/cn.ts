@@ -106,6 +106,161 @@
     </message>
 </context>
 <context>
+    <name>BluetoothPage</name>
+    <message>
+        <source>The companion app asks to stop the stream. Stop streaming on every channel now?</source>
+        <translation>手机助手请求停止推流。现在停止所有通道的推流吗？</translation>
+    </message>
+    <message>
+        <source>Stop streaming</source>
+        <translation>停止推流</translation>
+    </message>
+    <message>
+        <source>No live session</source>
+        <translation>无直播会话</translation>
+    </message>
+    <message>
+        <source>Telling the companion service the stream starts…</source>
+        <translation>正在通知助手服务直播开始…</translation>
+    </message>
+    <message>
+        <source>Live session confirmed by the companion service</source>
+        <translation>助手服务已确认直播会话</translation>
+    </message>
+    <message>
+        <source>Telling the companion service the stream ended…</source>
+        <translation>正在通知助手服务直播结束…</translation>
+    </message>
+    <message>
+        <source>The companion app sent a stream destination</source>
+        <translation>手机助手发来了推流地址</translation>
+    </message>
+    <message>
+        <source>Portrait picture</source>
+        <translation>竖屏画面</translation>
+    </message>
+    <message>
+        <source>Landscape picture</source>
+        <translation>横屏画面</translation>
+    </message>
+    <message>
+        <source>Use this destination</source>
+        <translation>使用此地址</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>忽略</translation>
+    </message>
+    <message>
+        <source>Bluetooth on</source>
+        <translation>蓝牙开</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Bluetooth off</source>
+        <translation>蓝牙关</translation>
+    </message>
+    <message>
+        <source>Companion app on</source>
+        <translation>手机助手开</translation>
+    </message>
+    <message>
+        <source>Companion app off</source>
+        <translation>手机助手关</translation>
+    </message>
+    <message>
+        <source>Companion stream</source>
+        <translation>助手推流</translation>
+    </message>
+    <message>
+        <source>No destination from the app yet</source>
+        <translation>尚未收到手机助手的地址</translation>
+    </message>
+    <message>
+        <source>Search devices</source>
+        <translation>搜索设备</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message>
+        <source>Speakers, headsets</source>
+        <translation>音箱、耳机</translation>
+    </message>
+    <message>
+        <source>Search phones</source>
+        <translation>搜索手机</translation>
+    </message>
+    <message>
+        <source>Companion app</source>
+        <translation>手机助手</translation>
+    </message>
+    <message>
+        <source>Switch Bluetooth on to search.</source>
+        <translation>请先打开蓝牙再搜索。</translation>
+    </message>
+    <message>
+        <source>The device did not answer for %1.</source>
+        <translation>设备未就 %1 作出应答。</translation>
+    </message>
+    <message>
+        <source>Disconnecting %1; the list shows the result.</source>
+        <translation>正在断开 %1，结果见列表。</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>已连接 %1。</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>已断开 %1。</translation>
+    </message>
+    <message>
+        <source>Could not connect to %1.</source>
+        <translation>无法连接 %1。</translation>
+    </message>
+    <message>
+        <source>Could not disconnect from %1.</source>
+        <translation>无法断开 %1。</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Phones</source>
+        <translation>手机</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>断开</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>等待设备…</translation>
+    </message>
+</context>
+<context>
     <name>BoardStore</name>
     <message>
         <source>London</source>
@@ -788,6 +943,14 @@
     <message>
         <source>Events</source>
         <translation>直播活动</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>蓝牙</translation>
+    </message>
+    <message>
+        <source>Devices, companion app</source>
+        <translation>设备、手机助手</translation>
     </message>
 </context>
 <context>

@@ -107,6 +107,161 @@
     </message>
 </context>
 <context>
+    <name>BluetoothPage</name>
+    <message>
+        <source>The companion app asks to stop the stream. Stop streaming on every channel now?</source>
+        <translation>Die Begleit-App bittet, den Stream zu beenden. Jetzt auf allen Kanälen beenden?</translation>
+    </message>
+    <message>
+        <source>Stop streaming</source>
+        <translation>Stream stoppen</translation>
+    </message>
+    <message>
+        <source>No live session</source>
+        <translation>Keine Live-Sitzung</translation>
+    </message>
+    <message>
+        <source>Telling the companion service the stream starts…</source>
+        <translation>Begleitdienst wird über den Start informiert…</translation>
+    </message>
+    <message>
+        <source>Live session confirmed by the companion service</source>
+        <translation>Live-Sitzung vom Begleitdienst bestätigt</translation>
+    </message>
+    <message>
+        <source>Telling the companion service the stream ended…</source>
+        <translation>Begleitdienst wird über das Ende informiert…</translation>
+    </message>
+    <message>
+        <source>The companion app sent a stream destination</source>
+        <translation>Die Begleit-App hat ein Streamziel gesendet</translation>
+    </message>
+    <message>
+        <source>Portrait picture</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape picture</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Use this destination</source>
+        <translation>Dieses Ziel verwenden</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+    <message>
+        <source>Bluetooth on</source>
+        <translation>Bluetooth an</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
+    <message>
+        <source>Bluetooth off</source>
+        <translation>Bluetooth aus</translation>
+    </message>
+    <message>
+        <source>Companion app on</source>
+        <translation>Begleit-App an</translation>
+    </message>
+    <message>
+        <source>Companion app off</source>
+        <translation>Begleit-App aus</translation>
+    </message>
+    <message>
+        <source>Companion stream</source>
+        <translation>Begleit-Stream</translation>
+    </message>
+    <message>
+        <source>No destination from the app yet</source>
+        <translation>Noch kein Ziel von der App</translation>
+    </message>
+    <message>
+        <source>Search devices</source>
+        <translation>Geräte suchen</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft…</translation>
+    </message>
+    <message>
+        <source>Speakers, headsets</source>
+        <translation>Lautsprecher, Headsets</translation>
+    </message>
+    <message>
+        <source>Search phones</source>
+        <translation>Telefone suchen</translation>
+    </message>
+    <message>
+        <source>Companion app</source>
+        <translation>Begleit-App</translation>
+    </message>
+    <message>
+        <source>Switch Bluetooth on to search.</source>
+        <translation>Zum Suchen Bluetooth einschalten.</translation>
+    </message>
+    <message>
+        <source>The device did not answer for %1.</source>
+        <translation>Keine Antwort des Geräts zu %1.</translation>
+    </message>
+    <message>
+        <source>Disconnecting %1; the list shows the result.</source>
+        <translation>%1 wird getrennt; die Liste zeigt das Ergebnis.</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>Mit %1 verbunden.</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>Von %1 getrennt.</translation>
+    </message>
+    <message>
+        <source>Could not connect to %1.</source>
+        <translation>Verbindung mit %1 fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Could not disconnect from %1.</source>
+        <translation>Trennen von %1 fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Phones</source>
+        <translation>Telefone</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>keine gefunden</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>Warte auf Gerät…</translation>
+    </message>
+</context>
+<context>
     <name>BoardStore</name>
     <message>
         <source>London</source>
@@ -789,6 +944,14 @@
     <message>
         <source>Events</source>
         <translation>Events</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>Devices, companion app</source>
+        <translation>Geräte, Begleit-App</translation>
     </message>
 </context>
 <context>

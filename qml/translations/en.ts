@@ -107,6 +107,161 @@
     </message>
 </context>
 <context>
+    <name>BluetoothPage</name>
+    <message>
+        <source>The companion app asks to stop the stream. Stop streaming on every channel now?</source>
+        <translation>The companion app asks to stop the stream. Stop streaming on every channel now?</translation>
+    </message>
+    <message>
+        <source>Stop streaming</source>
+        <translation>Stop streaming</translation>
+    </message>
+    <message>
+        <source>No live session</source>
+        <translation>No live session</translation>
+    </message>
+    <message>
+        <source>Telling the companion service the stream starts…</source>
+        <translation>Telling the companion service the stream starts…</translation>
+    </message>
+    <message>
+        <source>Live session confirmed by the companion service</source>
+        <translation>Live session confirmed by the companion service</translation>
+    </message>
+    <message>
+        <source>Telling the companion service the stream ended…</source>
+        <translation>Telling the companion service the stream ended…</translation>
+    </message>
+    <message>
+        <source>The companion app sent a stream destination</source>
+        <translation>The companion app sent a stream destination</translation>
+    </message>
+    <message>
+        <source>Portrait picture</source>
+        <translation>Portrait picture</translation>
+    </message>
+    <message>
+        <source>Landscape picture</source>
+        <translation>Landscape picture</translation>
+    </message>
+    <message>
+        <source>Use this destination</source>
+        <translation>Use this destination</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignore</translation>
+    </message>
+    <message>
+        <source>Bluetooth on</source>
+        <translation>Bluetooth on</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+    <message>
+        <source>Bluetooth off</source>
+        <translation>Bluetooth off</translation>
+    </message>
+    <message>
+        <source>Companion app on</source>
+        <translation>Companion app on</translation>
+    </message>
+    <message>
+        <source>Companion app off</source>
+        <translation>Companion app off</translation>
+    </message>
+    <message>
+        <source>Companion stream</source>
+        <translation>Companion stream</translation>
+    </message>
+    <message>
+        <source>No destination from the app yet</source>
+        <translation>No destination from the app yet</translation>
+    </message>
+    <message>
+        <source>Search devices</source>
+        <translation>Search devices</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Searching…</translation>
+    </message>
+    <message>
+        <source>Speakers, headsets</source>
+        <translation>Speakers, headsets</translation>
+    </message>
+    <message>
+        <source>Search phones</source>
+        <translation>Search phones</translation>
+    </message>
+    <message>
+        <source>Companion app</source>
+        <translation>Companion app</translation>
+    </message>
+    <message>
+        <source>Switch Bluetooth on to search.</source>
+        <translation>Switch Bluetooth on to search.</translation>
+    </message>
+    <message>
+        <source>The device did not answer for %1.</source>
+        <translation>The device did not answer for %1.</translation>
+    </message>
+    <message>
+        <source>Disconnecting %1; the list shows the result.</source>
+        <translation>Disconnecting %1; the list shows the result.</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>Connected to %1.</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>Disconnected from %1.</translation>
+    </message>
+    <message>
+        <source>Could not connect to %1.</source>
+        <translation>Could not connect to %1.</translation>
+    </message>
+    <message>
+        <source>Could not disconnect from %1.</source>
+        <translation>Could not disconnect from %1.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Devices</translation>
+    </message>
+    <message>
+        <source>Phones</source>
+        <translation>Phones</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>none found</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connected</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>not connected</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Waiting for the device…</source>
+        <translation>Waiting for the device…</translation>
+    </message>
+</context>
+<context>
     <name>BoardStore</name>
     <message>
         <source>London</source>
@@ -789,6 +944,14 @@
     <message>
         <source>Events</source>
         <translation>Events</translation>
+    </message>
+    <message>
+        <source>Bluetooth</source>
+        <translation>Bluetooth</translation>
+    </message>
+    <message>
+        <source>Devices, companion app</source>
+        <translation>Devices, companion app</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,166 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import QtTest 1.2
+import "qrc:/CSQML"
+import "qrc:/Public"
+
+// The companion store against fake native objects (what goes to the phone,
+// the companion service and the device, in order) and the Bluetooth page
+// on that store.
+Item {
+    id: root
+    width: 1000
+    height: 2000
+
+    QtObject {
+        id: fake
+        property var sent: []
+        function note(what) { var s = sent.slice(); s.push(what); sent = s }
+        property QtObject uiproBluetooth: QtObject {
+            signal pushReadRtmp(string url, string token, string Data, string vertical)
+            signal pushAirSet(bool tmpSet)
+            function writeDataToDev(text) { fake.note("phone " + text) }
+            function setReadFlag(on) { fake.note("read " + on) }
+        }
+        property QtObject uiproRtmp: QtObject {
+            readonly property string companionHost: "https://zorvane.com"
+            signal sigSendHttpResult(string url, bool result)
+            function setZorPlatformUrl(url) { fake.note("zor " + url) }
+            function httpRequestPostByUrl(url, token, data) { fake.note("post " + url.replace(companionHost, "") + " " + token + " " + data) }
+        }
+        property QtObject uiproc: QtObject {
+            function writeInitConfig(obj) { fake.note("save " + JSON.stringify(obj)) }
+            function connectBluetoothOpen(on) { fake.note("radio " + on) }
+            function connectBluetoothSearch(on, broadcast) { fake.note("search " + on + " " + broadcast) }
+            function connectBluetoothDevInfo(isZor) { fake.note("list " + isZor) }
+            function connectBluetoothDev(mac, isZor) { fake.note("connect " + mac + " " + isZor) }
+            function disconnectBluetoothDev(mac, isZor) { fake.note("disconnect " + mac + " " + isZor) }
+        }
+        property QtObject uiproVideo: QtObject {
+            signal pushBluetoothFinBroadCast()
+            signal pushBluetoothDevInfoBroadCast(int connect, string mac, string name)
+            signal pushConnectResult(int type, bool result)
+        }
+    }
+    QtObject { id: fakeLive; property bool streaming: false }
+    QtObject {
+        id: fakeStream
+        property string liveAddress: "rtmp://push.zorvane.com/live/abc"
+        function stop() { fake.note("stream stop") }
+        function refresh() {}
+    }
+    CompanionStore { id: store; live: fakeLive; stream: fakeStream; heartbeatMs: 40; startPushMs: 120 }
+    Component { id: pageComponent; BluetoothPage { width: root.width } }
+
+    TestCase {
+        name: "Companion"
+        when: windowShown
+
+        function initTestCase() { store.manage = fake }
+        function init() {
+            fakeLive.streaming = false
+            fakeStream.liveAddress = "rtmp://push.zorvane.com/live/abc"
+            store.heartbeat.stop()
+            store.startPush.stop()
+            store.start({ isBlueToothZor: 1 })
+            store.session = ""
+            store.token = ""
+            store.room = ""
+            store.offer = null
+            store.stopAsked = false
+            fake.sent = []
+        }
+
+        function test_offer_data() {
+            return [{ tag: "landscape", vertical: "1", mode: 1, offer: { url: "https://push.zorvane.com/l/a", token: "T", room: "R", vertical: 0 } },
+                    { tag: "portrait", vertical: "2", mode: 1, offer: { url: "https://push.zorvane.com/l/a", token: "T", room: "R", vertical: 1 } },
+                    { tag: "companion mode off", vertical: "1", mode: 0, offer: null }]
+        }
+        function test_offer(data) {
+            store.start({ isBlueToothZor: data.mode })
+            fake.uiproBluetooth.pushReadRtmp("https://push.zorvane.com/l/a", "T", "R", data.vertical)
+            compare(store.offer, data.offer)
+            if (!data.offer)
+                return
+            fake.sent = []
+            store.acceptOffer()
+            compare(fake.sent, ["phone RecvSuccess", "zor https://push.zorvane.com/l/a"])
+            compare([store.token, store.room, store.orientation, store.offer], ["T", "R", data.offer.vertical, null])
+        }
+
+        function test_session_data() {
+            return [{ tag: "to the companion service", address: "rtmp://push.zorvane.com/live/abc", begins: true },
+                    { tag: "to another platform", address: "rtmp://a.rtmp.youtube.com/live2/k", begins: false }]
+        }
+        function test_session(data) {
+            fakeStream.liveAddress = data.address
+            store.token = "TOK"
+            store.room = "ROOM 1&2"
+            fakeLive.streaming = true
+            if (!data.begins) {
+                compare(fake.sent, [])
+                return
+            }
+            compare(fake.sent, ["post /api/Live/beginLive TOK ROOM 1&2"])
+            // An earlier heartbeat's success reported under another URL starts nothing.
+            fake.uiproRtmp.sigSendHttpResult("https://zorvane.com/api/Live/headBeat", true)
+            wait(100)
+            compare(fake.sent.length, 1)
+            fake.uiproRtmp.sigSendHttpResult("https://zorvane.com/api/Live/beginLive", true)
+            tryVerify(function () { return fake.sent.indexOf("phone StartPush") > 0 }, 2000)
+            verify(fake.sent.indexOf("post /api/Live/headBeat TOK ROOM 1&2") > 0)
+            fake.sent = []
+            fakeLive.streaming = false
+            compare(fake.sent, ["post /api/Live/endLive TOK ROOM 1&2"])
+            wait(150) // the heartbeat ended with the end call
+            compare(fake.sent.length, 1)
+            fake.uiproRtmp.sigSendHttpResult("https://zorvane.com/api/Live/endLive", true)
+            compare(fake.sent, ["post /api/Live/endLive TOK ROOM 1&2", "phone StopPush"])
+        }
+
+        function test_appAsksToStop_data() {
+            return [{ tag: "while streaming", streaming: true, asked: true },
+                    { tag: "nothing on air", streaming: false, asked: false }]
+        }
+        function test_appAsksToStop(data) {
+            fakeLive.streaming = data.streaming
+            fake.sent = []
+            fake.uiproBluetooth.pushAirSet(false)
+            compare(store.stopAsked, data.asked)
+            compare(fake.sent, []) // nothing stops without the operator
+            if (!data.asked)
+                return
+            var page = createTemporaryObject(pageComponent, root, { store: store })
+            var dialog = findChild(page.Window.contentItem, "companionConfirm")
+            tryCompare(dialog, "visible", true)
+            mouseClick(findChild(dialog, "confirmAction"))
+            compare(fake.sent, ["stream stop"])
+            compare(store.stopAsked, false)
+        }
+
+        function test_phoneSearchAndConnect() {
+            store.setRadio(true)
+            store.search(true)
+            fake.uiproVideo.pushBluetoothFinBroadCast()
+            fake.uiproVideo.pushBluetoothDevInfoBroadCast(0, "5c-f9-38-12-34-56", "Director Phone")
+            var page = createTemporaryObject(pageComponent, root, { store: store })
+            waitForRendering(page)
+            mouseClick(findChild(page, "phone_5c-f9-38-12-34-56"))
+            fake.uiproVideo.pushConnectResult(1, true)
+            compare(fake.sent, ["radio true", "search true true", "list true", "connect 5c-f9-38-12-34-56 true"])
+            compare(store.phones, [{ mac: "5c-f9-38-12-34-56", name: "Director Phone", connected: true }])
+            compare(findChild(page, "bluetoothResult").text, "Connected to 5c-f9-38-12-34-56.")
+        }
+
+        function test_acceptOnThePage() {
+            fake.uiproBluetooth.pushReadRtmp("https://push.zorvane.com/l/b", "T", "R", "1")
+            var page = createTemporaryObject(pageComponent, root, { store: store })
+            waitForRendering(page)
+            compare(findChild(page, "companionOfferUrl").text, "https://push.zorvane.com/l/b")
+            fake.sent = []
+            mouseClick(findChild(page, "companionAccept"))
+            compare(fake.sent, ["phone RecvSuccess", "zor https://push.zorvane.com/l/b"])
+            verify(!findChild(page, "companionOffer").visible)
+        }
+    }
+}
