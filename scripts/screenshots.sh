@@ -25,6 +25,7 @@
 #   CS_SHOT_AFTER_MS    time from start to picture (default 2000)
 #   CS_SIM_ARGS         extra simulator options, e.g. "--script busy.txt" to
 #                       show streams, recording or an unplugged input
+#   CS_SHOT_PAGES       only these screens, e.g. "main menu record"
 #
 # Exits non-zero with a message naming the picture when one was not written.
 set -eu
@@ -88,6 +89,7 @@ out=$(cd "$out" && pwd)
 # Page names as the registry lists them; only plain names make file names.
 pages=$(sed -n 's/.*{ *name: *"\([A-Za-z0-9_-]*\)".*/\1/p' "$top/qml/Public/Pages.qml")
 [ -n "$pages" ] || { echo "screenshots: no page names found in qml/Public/Pages.qml" >&2; exit 1; }
+screens="${CS_SHOT_PAGES:-main menu $pages}"
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/cs-shots.XXXXXX")
 stop="$work/stop"
@@ -143,7 +145,7 @@ render() {
         rc=1
     elif [ ! -e "$stop" ]; then
         # shellcheck disable=SC2086  # one argument per page name
-        xvfb-run -a -s "-screen 0 ${screen}x24" sh "$self" --render "$orientation" "$out" "$stop" main menu $pages || rc=$?
+        xvfb-run -a -s "-screen 0 ${screen}x24" sh "$self" --render "$orientation" "$out" "$stop" $screens || rc=$?
     fi
     kill "$sim" 2> /dev/null || true
     wait "$sim" 2> /dev/null || true

@@ -2,8 +2,10 @@ pragma Singleton
 import QtQuick 2.15
 
 // Every page an operator can open from the menu. `name` is what
-// CS_START_PAGE takes and the page's objectName; `store` names the store
-// the page is given; `source` is created the first time the page opens.
+// CS_START_PAGE takes and the page's objectName; `group` the menu heading
+// it is listed under ("switcher", "device" when absent; "live" pages open
+// from their live action instead); `store` names the store the page is
+// given; `source` is created the first time the page opens.
 QtObject {
     readonly property var all: [
         { name: "language", title: qsTr("Language"), hint: qsTr("Chinese, English, German"),
@@ -21,11 +23,11 @@ QtObject {
         { name: "system", title: qsTr("System"), hint: qsTr("Factory reset, switch off"),
           store: "board", source: Qt.resolvedUrl("../CSQML/SystemPage.qml") },
         { name: "record", title: qsTr("Record"), hint: qsTr("USB disk, recordings, playback"),
-          store: "media", source: Qt.resolvedUrl("../CSQML/RecordPage.qml") },
+          group: "live", store: "media", source: Qt.resolvedUrl("../CSQML/RecordPage.qml") },
         { name: "upgrade", title: qsTr("Upgrade"), hint: qsTr("New software from a USB disk"),
           store: "media", source: Qt.resolvedUrl("../CSQML/UpgradePage.qml") },
         { name: "stream", title: qsTr("Streaming"), hint: qsTr("Event, platforms, go live"),
-          store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") },
+          group: "live", store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") },
         { name: "bluetooth", title: qsTr("Bluetooth"), hint: qsTr("Devices, companion app"),
           store: "companion", source: Qt.resolvedUrl("../CSQML/BluetoothPage.qml") }
     ]

@@ -39,16 +39,31 @@ TestCase {
     function rectOf(item) { return item.mapToItem(view, 0, 0, item.width, item.height) }
 
     function test_everyPageInTwoTouches_data() {
-        return Pages.all.map(function (p) { return { tag: p.name, name: p.name, store: p.store } })
+        var rows = []
+        for (var portrait = 0; portrait < 2; ++portrait)
+            Pages.all.forEach(function (p) {
+                rows.push({ tag: p.name + (portrait ? " portrait" : ""), name: p.name, store: p.store,
+                            group: p.group || "device", portrait: portrait === 1 })
+            })
+        return rows
     }
     function test_everyPageInTwoTouches(data) {
+        view.portrait = data.portrait
+        view.keyboardTop = view.height
         verify(!host.visible)
-        touch("menuButton")
-        compare(host.current, "menu")
-        // The menu scrolls once its tiles outgrow the page: bring the tile into view first.
-        var tile = findChild(view, "menu_" + data.name), scroller = findChild(view, "pageScroller")
-        scroller.contentY = Math.min(scroller.contentHeight - scroller.height, tile.mapToItem(scroller.contentItem, 0, 0).y)
-        mouseClick(tile)
+        if (data.group === "live") {
+            // Its live action opens it, from the main screen as from any page.
+            touch(data.name === "stream" ? "streamButton" : "recordButton")
+        } else {
+            touch("menuButton")
+            compare(host.current, "menu")
+            // Every tile is in sight without scrolling.
+            var tile = findChild(view, "menu_" + data.name), scroller = findChild(view, "pageScroller")
+            var r = tile.mapToItem(scroller, 0, 0, tile.width, tile.height)
+            verify(r.y >= 0 && r.y + r.height <= scroller.height, "tile " + data.name + " at " + r.y + " of " + scroller.height)
+            verify(tile.height >= 110 && tile.width >= 110)
+            mouseClick(tile)
+        }
         compare(host.current, data.name)
         verify(host.visible && host.page !== null)
         compare(host.page.store, view.pageStores[data.store])
