@@ -208,7 +208,7 @@ QtObject {
         }
     }
     property Connections device_: Connections {
-        target: store.manage ? store.manage.uiproVideo : null
+        target: store.manage && store.manage.uiproVideo ? store.manage.uiproVideo : null
         ignoreUnknownSignals: true
         function onPushBluetoothFin() {
             if (store.searching === "devices") {
