@@ -62,6 +62,7 @@ QtObject {
         if (!canMove(code) || moving === code)
             return false
         moving = code
+        stopAgain.stop()
         manage.uiproc.connectUVCDirectionAndZoom(camera, code)
         return true
     }
@@ -70,6 +71,17 @@ QtObject {
             return
         moving = stop
         manage.uiproc.connectUVCDirectionAndZoom(camera, stop)
+        // Each command leaves on its own thread: a quick tap's stop can
+        // overtake its move. A second stop a moment later leaves no camera
+        // moving on its own.
+        stopAgain.camera = camera
+        stopAgain.restart()
+    }
+    property Timer stopAgain: Timer {
+        property int camera: 0
+        interval: 300
+        onTriggered: if (store.moving === store.stop || store.camera !== camera)
+                         store.manage.uiproc.connectUVCDirectionAndZoom(camera, store.stop)
     }
 
     function setAutoFocus(on) {

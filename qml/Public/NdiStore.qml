@@ -67,11 +67,29 @@ QtObject {
         if (nameProblem(text) !== "")
             return false
         var u = manage.uiproc
-        if (which === "group") { u.connectSNDIGroupName(text); u.connectRNDIGroupName() }
-        else if (which === "channel") { u.connectSNDIChannelName(text); u.connectRNDIChannelName() }
-        else if (which === "device") { u.connectSNDIDeviceName(text); u.connectRNDIDeviceName() }
+        if (which === "group") { u.connectSNDIGroupName(text); readLater("connectRNDIGroupName") }
+        else if (which === "channel") { u.connectSNDIChannelName(text); readLater("connectRNDIChannelName") }
+        else if (which === "device") { u.connectSNDIDeviceName(text); readLater("connectRNDIDeviceName") }
         else return false
         return true
+    }
+
+    // Each command leaves on its own thread, so a read sent right after a
+    // set may overtake it: the read-back waits a moment.
+    property var pendingReads: []
+    function readLater(slot) {
+        if (pendingReads.indexOf(slot) < 0)
+            pendingReads = pendingReads.concat([slot])
+        readBack.restart()
+    }
+    property Timer readBack: Timer {
+        interval: 300
+        onTriggered: {
+            var reads = store.pendingReads
+            store.pendingReads = []
+            for (var i = 0; i < reads.length; ++i)
+                store.manage.uiproc[reads[i]]()
+        }
     }
 
     // Multicast needs a group address; the other types keep the address
@@ -89,7 +107,7 @@ QtObject {
         if (connectionProblem(type, ttl, address, netmask) !== "")
             return false
         manage.uiproc.connectSNDIConnection(type, ttl, address, netmask)
-        manage.uiproc.connectRNDIConnection()
+        readLater("connectRNDIConnection")
         return true
     }
     function setDataType(type, code) { manage.uiproc.connectSNDIDateType(type, code) }

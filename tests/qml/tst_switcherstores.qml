@@ -61,6 +61,7 @@ Item {
 
     TestCase {
         name: "NdiStore"
+        function initTestCase() { ndi.readBack.interval = 30 }
         function init() { fake.sent = [] }
 
         function test_refreshAsksEverything() {
@@ -78,6 +79,8 @@ Item {
         }
         function test_setName(data) {
             compare(ndi.setName(data.which, data.text), data.sent.length > 0)
+            compare(fake.sent, data.sent.slice(0, 1), "the read-back waits")
+            wait(ndi.readBack.interval + 100)
             compare(fake.sent, data.sent)
         }
         function test_setConnection_data() {
@@ -92,6 +95,7 @@ Item {
         function test_setConnection(data) {
             compare(ndi.connectionProblem.apply(ndi, data.args), data.problem || "")
             ndi.setConnection.apply(ndi, data.args)
+            wait(ndi.readBack.interval + 100)
             compare(fake.sent, data.sent)
         }
         function test_reports() {
@@ -127,6 +131,7 @@ Item {
 
     TestCase {
         name: "CameraStore"
+        function initTestCase() { camera.stopAgain.interval = 30 }
         function init() {
             fake.sent = []
             camera.camera = 0
@@ -151,6 +156,10 @@ Item {
             })
             compare(fake.sent, data.sent)
             compare(camera.moving, 0)   // nothing is left moving
+            if (data.sent.length > 0) { // and the stop follows once more, to the camera that moved
+                wait(camera.stopAgain.interval + 100)
+                compare(fake.sent.slice(data.sent.length), ["move 0 0"])
+            }
         }
         function test_presetsStylesFocus() {
             camera.storePreset(2)
