@@ -23,6 +23,16 @@ Window {
     // The companion link's store, made with the device start like the board's.
     property var companion: null
     Component { id: companionStore; CompanionStore {} }
+    // The NDI, camera and scope stores, made with the device start too.
+    property var ndi: null
+    Component { id: ndiStore; NdiStore {} }
+    property var camera: null
+    Component { id: cameraStore; CameraStore {} }
+    property var scopes: null
+    Component { id: scopeStore; ScopeStore {} }
+    // The switcher pages' store (formats, PIP, audio), made with the device start too.
+    property var switcher: null
+    Component { id: switcherStore; SwitcherStore {} }
     StreamStore { id: stream; manage: manage; live: live }
     MediaStore { id: media; manage: manage; live: live; board: window.board; currentVersion: system.about.version || "" }
     // A start the disk refused, from wherever it was asked, is explained on
@@ -50,7 +60,7 @@ Window {
         objectName: "mainView"
         anchors.fill: parent
         store: live
-        pageStores: ({ live: live, system: system, board: board, media: media, stream: stream, companion: companion })
+        pageStores: ({ live: live, system: system, board: board, media: media, stream: stream, companion: companion, ndi: ndi, camera: camera, scopes: scopes, switcher: switcher })
         upgrading: media.upgrading
         keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
     }
@@ -119,6 +129,12 @@ Window {
         board.start(settings)
         companion = companionStore.createObject(window, { manage: manage, live: live, stream: stream })
         companion.start(settings)
+        ndi = ndiStore.createObject(window, { manage: manage })
+        camera = cameraStore.createObject(window, { manage: manage })
+        scopes = scopeStore.createObject(window, { manage: manage })
+        scopes.start(settings)
+        switcher = switcherStore.createObject(window, { manage: manage, live: live })
+        switcher.start(settings)
         system.requestLibraryInfo()
         manage.uiproc.initFinished()
         live.start()

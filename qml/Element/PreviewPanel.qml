@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import "../Public"
 import "../CONTROLS"
+import "../Public/PipLayout.js" as PipLayout
 
 // The programme picture in 16:9 with its tally frame, the PIP outline and
 // an honest mark when no frame arrives.
@@ -11,6 +12,7 @@ Rectangle {
     property int pipLayout: 0
     property bool paused: false
     property string programmeName: ""
+    property int safeFrames: 0      // guide drawn over the picture, 0 none
     readonly property bool live: preview.live
 
     color: "black"
@@ -25,18 +27,25 @@ Rectangle {
         paused: panel.paused
     }
 
-    // Where the device draws the second picture: a third of the frame, in the
-    // corner the layout names (bit 0: right, bit 1: bottom).
-    Rectangle {
-        objectName: "pipOutline"
-        visible: panel.pipOn
-        width: preview.width / 3
-        height: preview.height / 3
-        x: preview.x + ((panel.pipLayout & 1) ? preview.width - width - preview.width / 32 : preview.width / 32)
-        y: preview.y + ((panel.pipLayout & 2) ? preview.height - height - preview.height / 18 : preview.height / 18)
-        color: "transparent"
-        border.width: 3
-        border.color: Style.onPip
+    SafeFrameGuide {
+        objectName: "safeFrames"
+        anchors.fill: preview
+        type: panel.safeFrames
+    }
+
+    // Where the device draws the second pictures in the chosen layout.
+    Repeater {
+        model: panel.pipOn ? PipLayout.rects(panel.pipLayout) : []
+        Rectangle {
+            objectName: "pipOutline" + index
+            x: preview.x + modelData.x * preview.width
+            y: preview.y + modelData.y * preview.height
+            width: modelData.w * preview.width
+            height: modelData.h * preview.height
+            color: "transparent"
+            border.width: 3
+            border.color: Style.onPip
+        }
     }
 
     Rectangle {

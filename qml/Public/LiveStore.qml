@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import "VideoFormat.js" as VideoFormat
 
 // The live state of the device as the main screen shows it, kept from the
 // media service's reports, and the live actions. Views read it; only this
@@ -14,8 +15,12 @@ QtObject {
 
     property int programmeInput: -1
     property int pipInput: -1
+    property int pipInput2: -1      // second small picture of the two-picture layout
     property bool pipOn: false
+    // PIP layouts: 0..3 one small picture in a corner (top-left, top-right,
+    // bottom-left, bottom-right), 4 side by side, 5 two small pictures.
     property int pipLayout: 0
+    readonly property int pipLayoutCount: 6
 
     property bool recording: false
     property double recordStartMs: 0
@@ -39,8 +44,10 @@ QtObject {
     function loadSettings(settings) {
         if (settings.inputType !== undefined) programmeInput = settings.inputType
         if (settings.inputType2 !== undefined) pipInput = settings.inputType2
+        if (settings.inputType3 !== undefined) pipInput2 = settings.inputType3
         if (settings.pipModeOpen !== undefined) pipOn = settings.pipModeOpen !== 0
-        if (settings.pipModeSelect !== undefined) pipLayout = settings.pipModeSelect
+        if (settings.pipModeSelect !== undefined && settings.pipModeSelect >= 0 && settings.pipModeSelect < pipLayoutCount)
+            pipLayout = settings.pipModeSelect
         if (settings.recordStatus !== undefined) recording = settings.recordStatus !== 0
         if (settings.recordStartTime !== undefined && settings.recordStartTime !== "")
             recordStartMs = Number(settings.recordStartTime) || 0
@@ -53,15 +60,48 @@ QtObject {
         manage.uiproc.connectSwitchVideo(index, true)
         manage.uiproc.writeInitConfig({ "inputType": index })
     }
+    // The device answers a PIP source with nothing of its own: the input
+    // read-back that follows says which source it took.
     function switchPip(index) {
         pipInput = index
         manage.uiproc.connectSwitchVideo(index, false)
         manage.uiproc.writeInitConfig({ "inputType2": index })
+        manage.uiproc.connectReadInitInput()
+    }
+    // The second small picture travels in the position byte of its layout,
+    // which has no corner to choose.
+    function switchPip2(index) {
+        pipInput2 = index
+        manage.uiproc.writeInitConfig({ "inputType3": index })
+        if (pipOn && pipLayout === 5)
+            sendPip()
+    }
+    // connectSetPIP(type, position): type 0 off, 1 corner, 2 side by side,
+    // 3 two pictures; position the corner, or the second source (255 none).
+    function pipArgs(on) {
+        if (pipLayout === 4)
+            return [on ? 2 : 0, 0]
+        if (pipLayout === 5)
+            return [on ? 3 : 0, pipInput2 >= 0 ? pipInput2 : 255]
+        return [on ? 1 : 0, pipLayout & 3]
+    }
+    function sendPip() {
+        var a = pipArgs(pipOn)
+        manage.uiproc.connectSetPIP(a[0], a[1])
     }
     function setPip(on) {
         pipOn = on
-        manage.uiproc.connectSetPIP(on ? 1 : 0, pipLayout)
+        sendPip()
         manage.uiproc.writeInitConfig({ "pipModeOpen": on ? 1 : 0 })
+        manage.uiproc.connectReadInitInput()
+    }
+    function setPipLayout(layout) {
+        if (layout < 0 || layout >= pipLayoutCount || layout === pipLayout)
+            return
+        pipLayout = layout
+        manage.uiproc.writeInitConfig({ "pipModeSelect": layout })
+        if (pipOn)
+            sendPip()
     }
     // Every start goes through the USB disk probe, wherever it is asked
     // for; the result is announced so the record page can say why a start
@@ -92,18 +132,39 @@ QtObject {
         target: store.manage ? store.manage.uiproVideo : null
         function onPushPGMCutFinish(sourceIndex) { store.heard(); store.programmeInput = sourceIndex }
         function onPushInitInput(mainInput, subInput) { store.heard(); store.programmeInput = mainInput; store.pipInput = subInput }
+        // A plug or unplug shows on the tile at once; the format of a new
+        // signal follows from the question it prompts.
         function onPushInputInitiative(status, inputID) {
             store.heard()
-            if (inputID >= 0 && inputID < 4) store.inputPresent = store.setAt(store.inputPresent, inputID, status !== 0)
+            if (inputID < 0 || inputID >= 4)
+                return
+            store.inputPresent = store.setAt(store.inputPresent, inputID, status !== 0)
+            if (status === 0)
+                store.inputFormat = store.setAt(store.inputFormat, inputID, "")
+            else
+                store.manage.uiproc.connectGetInputCurrentFormat(inputID)
+        }
+        // The device set its inputs up afresh, or an input was chosen on
+        // the device itself: ask what it has now.
+        function onPushInitInputInitiative(status) {
+            store.heard()
+            store.manage.uiproc.connectReadInitInput()
+            store.manage.uiproc.connectGetInputCurrentFormat()
+        }
+        function onPushInputClick(index) { store.heard(); store.manage.uiproc.connectReadInitInput() }
+        function onPushChangeHDMIInitiative(hdmiID) {
+            store.heard()
+            if (hdmiID === 0 || hdmiID === 1)
+                store.manage.uiproc.connectGetInputCurrentFormat(hdmiID)
         }
         function onPushInputFormatInitiative(type, format) {
             store.heard()
             if (type < 0 || type >= 4)
                 return
             // No current format means the input has no signal.
-            var known = format.width !== undefined
-            store.inputPresent = store.setAt(store.inputPresent, type, known)
-            store.inputFormat = store.setAt(store.inputFormat, type, known ? format.width + "x" + format.height + " " + format.Fps : "")
+            var f = VideoFormat.parse(format, type < 2)
+            store.inputPresent = store.setAt(store.inputPresent, type, f !== null)
+            store.inputFormat = store.setAt(store.inputFormat, type, VideoFormat.label(f))
         }
         function onPushRecordingStatus(status) {
             store.heard()
@@ -133,7 +194,7 @@ QtObject {
     // Start-up: ask the device for the state it already has.
     function start() {
         // The device has no PIP report: make it agree with the remembered choice.
-        manage.uiproc.connectSetPIP(pipOn ? 1 : 0, pipLayout)
+        sendPip()
         manage.uiproc.connectReadInitInput()
         manage.uiproc.connectGetInputCurrentFormat()
         manage.uiproc.connectRec(1, 3)

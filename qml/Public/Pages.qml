@@ -29,7 +29,19 @@ QtObject {
         { name: "stream", title: qsTr("Streaming"), hint: qsTr("Event, platforms, go live"),
           group: "live", store: "stream", source: Qt.resolvedUrl("../CSQML/StreamPage.qml") },
         { name: "bluetooth", title: qsTr("Bluetooth"), hint: qsTr("Devices, companion app"),
-          store: "companion", source: Qt.resolvedUrl("../CSQML/BluetoothPage.qml") }
+          store: "companion", source: Qt.resolvedUrl("../CSQML/BluetoothPage.qml") },
+        { name: "ndi", title: qsTr("NDI"), hint: qsTr("Send, receive, sources, names"),
+          group: "switcher", store: "ndi", source: Qt.resolvedUrl("../CSQML/NdiPage.qml") },
+        { name: "ptz", title: qsTr("Cameras"), hint: qsTr("Pan, tilt, zoom, presets"),
+          group: "switcher", store: "camera", source: Qt.resolvedUrl("../CSQML/PtzPage.qml") },
+        { name: "scopes", title: qsTr("Scopes"), hint: qsTr("Scopes, safe frames"),
+          group: "switcher", store: "scopes", source: Qt.resolvedUrl("../CSQML/ScopesPage.qml") },
+        { name: "inputs", title: qsTr("Inputs"), hint: qsTr("Formats per input"),
+          group: "switcher", store: "switcher", source: Qt.resolvedUrl("../CSQML/InputsPage.qml") },
+        { name: "pip", title: qsTr("PIP"), hint: qsTr("Picture in picture: layout, sources"),
+          group: "switcher", store: "switcher", source: Qt.resolvedUrl("../CSQML/PipPage.qml") },
+        { name: "audio", title: qsTr("Audio"), hint: qsTr("Sound sources, levels, HDMI outputs"),
+          group: "switcher", store: "switcher", source: Qt.resolvedUrl("../CSQML/AudioPage.qml") }
     ]
     // Pages opened from another page (and back to it), not from the menu.
     readonly property var sub: [

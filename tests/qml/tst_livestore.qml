@@ -20,7 +20,7 @@ TestCase {
             function connectGetUSBStatus() { fakeManage.note("usb?") }
             function heartbeat() { fakeManage.note("usb?") } // the same question, logged quietly
             function connectReadInitInput() { fakeManage.note("init?") }
-            function connectGetInputCurrentFormat() { fakeManage.note("formats?") }
+            function connectGetInputCurrentFormat(type) { fakeManage.note("formats?" + (type === undefined ? "" : " " + type)) }
             function connectStreamPlatformStatus() { fakeManage.note("streams?") }
             function connectGetLocalHost() { fakeManage.note("ip?") }
             function writeInitConfig(obj) { var s = fakeManage.saved.slice(); s.push(JSON.stringify(obj)); fakeManage.saved = s }
@@ -30,6 +30,9 @@ TestCase {
             signal pushInitInput(int mainInput, int subInput)
             signal pushInputInitiative(int status, int inputID)
             signal pushInputFormatInitiative(int type, var format)
+            signal pushInitInputInitiative(int status)
+            signal pushInputClick(int index)
+            signal pushChangeHDMIInitiative(int hdmiID)
             signal pushRecordingStatus(int status)
             signal pushRtmpStatus(int channel, int status)
             signal pushUSBStatus(int status)
@@ -60,7 +63,7 @@ TestCase {
         compare(fakeManage.sent, ["switch 2 true"])
         compare(store.programmeInput === 2, false, "the tally waits for the device's answer")
         store.switchPip(1)
-        compare(fakeManage.sent, ["switch 2 true", "switch 1 false"])
+        compare(fakeManage.sent, ["switch 2 true", "switch 1 false", "init?"], "the source read back")
         compare(fakeManage.saved, ['{"inputType":2}', '{"inputType2":1}'])
     }
 
@@ -70,7 +73,7 @@ TestCase {
         var before = Date.now()
         store.startRecording()
         store.stopRecording()
-        compare(fakeManage.sent, ["pip 1 2", "probe", "rec 1 1", "rec 1 2"])
+        compare(fakeManage.sent, ["pip 1 2", "init?", "probe", "rec 1 1", "rec 1 2"])
         compare(fakeManage.saved.length, 3)
         compare(fakeManage.saved[0], '{"pipModeOpen":1}')
         var started = JSON.parse(fakeManage.saved[1])
@@ -104,18 +107,56 @@ TestCase {
         compare(store.onAir, data.streaming)
     }
 
-    function test_inputPresenceAndFormat() {
-        fakeManage.uiproVideo.pushInputInitiative(0, 1)
-        compare(store.inputPresent[1], false)
-        fakeManage.uiproVideo.pushInputInitiative(1, 1)
-        compare(store.inputPresent[1], true)
+    function test_inputPresenceAndFormat_data() {
+        return [{ tag: "progressive", input: 2, format: { "DataType": 1, "width": 1280, "height": 720, "Fps": 50 }, shown: "720p50", present: true },
+                { tag: "HDMI interlaced travels as 540 lines", input: 1, format: { "DataType": 0, "width": 1920, "height": 540, "Fps": 60 }, shown: "1080i60", present: true },
+                { tag: "540 lines elsewhere are 540 lines", input: 3, format: { "DataType": 1, "width": 960, "height": 540, "Fps": 30 }, shown: "540p30", present: true },
+                { tag: "no current format", input: 3, format: {}, shown: "", present: false }]
+    }
+    function test_inputPresenceAndFormat(data) {
+        fakeManage.uiproVideo.pushInputInitiative(0, data.input)
+        compare(store.inputPresent[data.input], false)
+        compare(fakeManage.sent, [], "nothing to ask about a lost signal")
+        fakeManage.uiproVideo.pushInputInitiative(1, data.input)
+        compare(store.inputPresent[data.input], true, "the tile shows the plug at once")
+        compare(fakeManage.sent, ["formats? " + data.input])
         fakeManage.uiproVideo.pushInputInitiative(1, 9) // unknown input: ignored
-        fakeManage.uiproVideo.pushInputFormatInitiative(2, { "DataType": 0, "width": 1280, "height": 720, "Fps": 50 })
-        compare(store.inputFormat[2], "1280x720 50")
-        compare(store.inputPresent[2], true)
-        fakeManage.uiproVideo.pushInputFormatInitiative(3, {})
-        compare(store.inputFormat[3], "")
-        compare(store.inputPresent[3], false)
+        fakeManage.uiproVideo.pushInputFormatInitiative(data.input, data.format)
+        compare(store.inputFormat[data.input], data.shown)
+        compare(store.inputPresent[data.input], data.present)
+    }
+
+    function test_deviceSideInputChangesAreAsked() {
+        fakeManage.uiproVideo.pushInitInputInitiative(1)
+        fakeManage.uiproVideo.pushInputClick(2)
+        fakeManage.uiproVideo.pushChangeHDMIInitiative(1)
+        fakeManage.uiproVideo.pushChangeHDMIInitiative(7)
+        compare(fakeManage.sent, ["init?", "formats?", "init?", "formats? 1"])
+    }
+
+    function test_pipLayouts_data() {
+        return [{ tag: "corner", layout: 3, second: -1, on: "pip 1 3", off: "pip 0 3" },
+                { tag: "side by side", layout: 4, second: -1, on: "pip 2 0", off: "pip 0 0" },
+                { tag: "two pictures", layout: 5, second: 2, on: "pip 3 2", off: "pip 0 2" },
+                { tag: "two pictures, second none", layout: 5, second: -1, on: "pip 3 255", off: "pip 0 255" }]
+    }
+    function test_pipLayouts(data) {
+        store.pipOn = false
+        store.pipLayout = 0
+        store.pipInput2 = data.second
+        store.setPipLayout(data.layout)
+        compare(fakeManage.sent, [], "a layout waits while PIP is off")
+        store.setPip(true)
+        store.setPip(false)
+        compare(fakeManage.sent, [data.on, "init?", data.off, "init?"])
+        compare(fakeManage.saved, ['{"pipModeSelect":' + data.layout + '}', '{"pipModeOpen":1}', '{"pipModeOpen":0}'])
+        store.setPip(true)
+        fakeManage.sent = []
+        store.switchPip2(4)
+        compare(fakeManage.sent, data.layout === 5 ? ["pip 3 4"] : [], "the second source travels with its layout")
+        store.setPipLayout(9)
+        compare(store.pipLayout, data.layout, "no such layout")
+        store.pipOn = false
     }
 
     function test_startAppliesTheRememberedSettings() {
