@@ -68,6 +68,7 @@ Rectangle {
             onAir: view.store.onAir
             pipOn: view.store.pipOn
             pipLayout: view.store.pipLayout
+            safeFrames: view.pageStores.scopes ? view.pageStores.scopes.safeFrames : 0
             paused: view.upgrading
             programmeName: view.store.programmeInput >= 0 && view.store.programmeInput < view.store.inputNames.length
                            ? view.store.inputNames[view.store.programmeInput] : ""
