@@ -2,36 +2,11 @@
 // driven through its controls. Addresses come from rtmp.ini on the USB
 // disk; what reaches the simulator, what the event file and the settings
 // keep, and what the screens show are checked.
-#include "TestSysroot.h"
+#include "AppRun.h"
 
 #include <QDateTime>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QSettings>
-#include <QUdpSocket>
 #include <QtTest>
-
-#include <sys/ipc.h>
-#include <sys/sem.h>
-#include <sys/shm.h>
-
-namespace {
-quint16 freeUdpPort()
-{
-    QUdpSocket s;
-    s.bind(QHostAddress(QHostAddress::LocalHost), 0);
-    return s.localPort();
-}
-void removeIpc(int preview, int sem, int audio)
-{
-    int id = shmget(preview, 0, 0);
-    if (id >= 0) shmctl(id, IPC_RMID, nullptr);
-    id = shmget(audio, 0, 0);
-    if (id >= 0) shmctl(id, IPC_RMID, nullptr);
-    id = semget(sem, 0, 0);
-    if (id >= 0) semctl(id, 0, IPC_RMID);
-}
-} // namespace
 
 class TstStreamingE2e : public QObject
 {
@@ -48,37 +23,10 @@ private slots:
         QVERIFY(TestSysroot::writeFile(root.path(QStringLiteral("/media/usb0/rtmp.ini")),
                                        (youtube + "\n\n  " + twitch + "  \r\n" + facebook + "\n").toUtf8()));
 
-        const int base = 0x6e000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("CS_SYSROOT"), root.root());
-        env.insert(QStringLiteral("CS_MEDIA_PORT"), QString::number(freeUdpPort()));
-        env.insert(QStringLiteral("CS_LISTEN_PORT"), QString::number(freeUdpPort()));
-        env.insert(QStringLiteral("CS_PREVIEW_SHM_KEY"), QString::number(base));
-        env.insert(QStringLiteral("CS_PREVIEW_SEM_KEY"), QString::number(base + 1));
-        env.insert(QStringLiteral("CS_AUDIO_SHM_KEY"), QString::number(base + 2));
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
-        env.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("cs.*.debug=false\ncs.sim.info=true"));
-
-        QProcess sim;
-        sim.setProcessEnvironment(env);
-        sim.setProcessChannelMode(QProcess::MergedChannels);
-        sim.start(QStringLiteral(CS_BINARY_DIR "/sim/cs-mediasim"),
-                  {QStringLiteral("--size"), QStringLiteral("320x180"), QStringLiteral("--fps"), QStringLiteral("10"),
-                   QStringLiteral("--seconds"), QStringLiteral("90")});
-        QVERIFY(sim.waitForStarted(5000));
-
-        QProcess app;
-        env.insert(QStringLiteral("CS_MAIN_QML"), QStringLiteral(CS_SOURCE_DIR "/tests/e2e/streamprobe.qml"));
-        app.setProcessEnvironment(env);
-        app.setProcessChannelMode(QProcess::MergedChannels);
-        app.start(QStringLiteral(CS_BINARY_DIR "/CSFrontEnd"), QStringList());
-        QVERIFY(app.waitForFinished(90000));
-        const QString out = QString::fromLocal8Bit(app.readAll());
-        sim.terminate();
-        sim.waitForFinished(5000);
-        const QString simOut = QString::fromLocal8Bit(sim.readAll());
-        removeIpc(base, base + 1, base + 2);
+        AppRun run(root);
+        QVERIFY(run.startSimulator());
+        const QString out = run.runApp(QStringLiteral("e2e/streamprobe.qml"));
+        const QString simOut = run.stopSimulator();
 
         const auto done = QRegularExpression(QStringLiteral("PROBE done tomorrow18=(\\d+)")).match(out);
         QVERIFY2(done.hasMatch(), qPrintable(out.right(4000)));
