@@ -38,6 +38,7 @@ Column {
                 id: tile
                 objectName: "pipLayout" + index
                 readonly property bool checked: page.store.pipLayout === index
+                readonly property bool enabledState: true   // touchable like a button
                 width: layouts.cell
                 height: Math.max(Style.touch * 1.6, diagram.height + name.height + 3 * Style.gap / 2)
                 radius: Style.radius

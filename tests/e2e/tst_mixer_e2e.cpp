@@ -1,0 +1,55 @@
+// The inputs, PIP and audio pages from end to end: the real application
+// against the simulator, reached through the menu and driven through their
+// controls. What the simulator took, what the settings file keeps, and that
+// each page showed the device's answer (the probe waits for it) are checked.
+#include "AppRun.h"
+
+#include <QSettings>
+#include <QtTest>
+
+class TstMixerE2e : public QObject
+{
+    Q_OBJECT
+private slots:
+    void page_data()
+    {
+        QTest::addColumn<QString>("page");
+        QTest::addColumn<QStringList>("simSaw"); // in this order
+        QTest::addColumn<QVariantMap>("settings");
+        QTest::newRow("inputs") << "inputs" << QStringList{"input 1 format 1920x1080i@50 type 0"}
+                                << QVariantMap{{"curInputIndex", 1}, {"HDMI2VideoFormat", "1920x1080i@50"}};
+        QTest::newRow("pip") << "pip"
+                             << QStringList{"pip corner position 0", "pip two pictures position 255", "pip two pictures position 0"}
+                             << QVariantMap{{"pipModeOpen", 1}, {"pipModeSelect", 5}, {"inputType2", 2}, {"inputType3", 0}};
+        QTest::newRow("audio") << "audio" << QStringList{"programme audio source 3", "pip audio source 6"}
+                               << QVariantMap{{"inputAudio", 3}, {"inputAudio2", 6}, {"autoAudio", 0}};
+    }
+    void page()
+    {
+        QFETCH(QString, page);
+        QFETCH(QStringList, simSaw);
+        QFETCH(QVariantMap, settings);
+        TestSysroot root(true);
+        QVERIFY(root.isValid());
+        AppRun run(root, 0x6d000000);
+        QVERIFY(run.startSimulator());
+        const QString out = run.runApp(QStringLiteral("e2e/mixerprobe.qml"), 50000, {QStringLiteral("probe-") + page});
+        const QString simOut = run.stopSimulator();
+
+        QVERIFY2(out.contains(QStringLiteral("PROBE done")), run.tail().constData());
+        int from = 0;
+        for (const QString &s : simSaw) {
+            const int at = simOut.indexOf(s, from);
+            QVERIFY2(at >= 0, qPrintable(s + QStringLiteral(" missing after position ") + QString::number(from) + "\n" + simOut.right(3000)));
+            from = at + s.size();
+        }
+
+        QSettings ini(root.configFile(), QSettings::IniFormat);
+        ini.beginGroup(QStringLiteral("setting"));
+        for (auto it = settings.cbegin(); it != settings.cend(); ++it)
+            QCOMPARE(ini.value(it.key()).toString(), it.value().toString());
+    }
+};
+
+QTEST_GUILESS_MAIN(TstMixerE2e)
+#include "tst_mixer_e2e.moc"
