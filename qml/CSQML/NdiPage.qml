@@ -53,15 +53,50 @@ Column {
         enabledState: page.store ? !page.store.searching : false
         onClicked: page.store.searchSources()
     }
+    // Names and addresses come from other machines: shown as plain text,
+    // never as markup.
     Repeater {
         model: page.store ? page.store.sources : []
-        TouchButton {
+        Rectangle {
+            id: source
             objectName: "ndiSource_" + modelData.name
-            width: page.width
-            label: modelData.name
-            detail: (checked ? qsTr("Chosen") + "  ·  " : "") + modelData.addr
-            checked: page.store.chosenSource === modelData.name
+            readonly property bool checked: page.store.chosenSource === modelData.name
+            readonly property bool enabledState: true
+            readonly property string detail: (checked ? qsTr("Chosen") + "  ·  " : "") + modelData.addr
+            signal clicked()
             onClicked: page.store.chooseSource(modelData.name)
+            width: page.width
+            height: Style.touch
+            radius: Style.radius
+            color: sourceArea.pressed ? Style.surfaceRaised : checked ? Qt.darker(Style.accent, 1.8) : Style.surfaceRaised
+            border.width: 2
+            border.color: checked ? Style.accent : Style.outline
+            Column {
+                anchors.centerIn: parent
+                width: parent.width - 2 * Style.gap
+                spacing: 4
+                Text {
+                    objectName: "ndiSourceName"
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    text: modelData.name
+                    textFormat: Text.PlainText
+                    color: Style.text
+                    font.pixelSize: Style.fontNormal
+                    font.bold: true
+                    elide: Text.ElideRight
+                }
+                Text {
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    text: source.detail
+                    textFormat: Text.PlainText
+                    color: Style.textDim
+                    font.pixelSize: Style.fontSmall
+                    elide: Text.ElideRight
+                }
+            }
+            MouseArea { id: sourceArea; anchors.fill: parent; onClicked: source.clicked() }
         }
     }
 

@@ -124,7 +124,9 @@ Item {
             mouseClick(findChild(page, "ndiData1"))
             compare(ndi.calls, ["connection 1 8 239.255.0.1 255.255.255.0", "source <b>x</b>", "data 1 0"])
             ndi.chosenSource = "<b>x</b>"
-            compare(findChild(page, "ndiSource_<b>x</b>").detail, "Chosen  ·  1.2.3.4")
+            var hostile = findChild(page, "ndiSource_<b>x</b>")
+            compare(hostile.detail, "Chosen  ·  1.2.3.4")
+            compare(findChild(hostile, "ndiSourceName").textFormat, Text.PlainText, "a name from the network is never markup")
         }
         function test_ptzHoldAndUnsupported() {
             var page = open(ptzPage, camera)
