@@ -1,7 +1,8 @@
 import QtQuick 2.15
 
 // Drives one of the NDI, camera and scope pages of the real interface
-// against the simulator, by the controls' object names. The page is the
+// against the simulator, reached through the menu and driven by the
+// controls' object names. The page is the
 // application's first argument ("probe-ndi", "probe-ptz", "probe-scopes").
 // Prints "PROBE step ..." per step and "PROBE done" or "PROBE fail at ...".
 Item {
@@ -40,9 +41,13 @@ Item {
         return true
     }
 
+    // Two touches from the main screen: the menu, then the page's tile.
+    function reach(name) {
+        return [{ what: "menu", act: function () { return probe.window.deviceStarted && touch("menuButton") }, done: function () { return opened("menu") } },
+                { what: "page", act: function () { return touch("menu_" + name) }, done: function () { return opened(name) } }]
+    }
     readonly property var plans: ({
-        ndi: [
-            { what: "page", act: function () { return host() !== null && probe.window.deviceStarted && host().show("ndi") }, done: function () { return opened("ndi") } },
+        ndi: reach("ndi").concat([
             { what: "source listed", act: function () { return true }, done: function () { return the("ndiSource_CAM-NORTH (PTZ1)") !== null } },
             { what: "source received", act: function () { return touch("ndiSource_CAM-NORTH (PTZ1)") },
               done: function () { return the("ndiDecoding").detail === qsTranslate("NdiPage", "On") } },
@@ -52,23 +57,21 @@ Item {
                   f.text = "Stage A"
                   return touch("ndiNameSet_group")
               }, done: function () { return probe.window.ndi.groupName === "Stage A" } }
-        ],
-        ptz: [
-            { what: "page", act: function () { return host() !== null && probe.window.deviceStarted && host().show("ptz") }, done: function () { return opened("ptz") } },
+        ]),
+        ptz: reach("ptz").concat([
             { what: "moving right", act: function () { return press("ptzRight") }, done: function () { return probe.window.camera.moving === 4 } },
             { what: "released", act: function () { the("ptzRight").end(); return true }, done: function () { return probe.window.camera.moving === 0 } },
             { what: "store mode", act: function () { return touch("ptzStoreMode") }, done: function () { return the("ptzPreset2").detail === qsTranslate("PtzPage", "Store here") } },
             { what: "stored", act: function () { return touch("ptzPreset2") },
               done: function () { return the("ptzPreset2").detail === qsTranslate("PtzPage", "Camera is here") } }
-        ],
-        scopes: [
-            { what: "page", act: function () { return host() !== null && probe.window.deviceStarted && host().show("scopes") }, done: function () { return opened("scopes") } },
+        ]),
+        scopes: reach("scopes").concat([
             { what: "vectorscope chosen", act: function () { return touch("scopeType3") }, done: function () { return the("scopePosition2").visible } },
             { what: "vectorscope top right", act: function () { return touch("scopePosition2") },
               done: function () { return the("scopeType3").detail === qsTranslate("ScopesPage", "Top right") } },
             { what: "safe frames on the preview", act: function () { return touch("safeFrames2") },
               done: function () { var g = the("previewPanel"); g = g ? find(g, "safeCut") : null; return g !== null && g.visible } }
-        ]
+        ])
     })
 
     property int step: 0

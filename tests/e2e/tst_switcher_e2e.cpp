@@ -1,35 +1,12 @@
 // The NDI, camera and scope pages from end to end: the real application
-// against the simulator, driven through its controls. What the simulator
-// received and kept, what the settings file keeps, and that each page
-// showed the device's answer (the probe waits for it) are checked.
-#include "TestSysroot.h"
+// against the simulator, reached through the menu and driven through its
+// controls. What the simulator received and kept, what the settings file
+// keeps, and that each page showed the device's answer (the probe waits
+// for it) are checked.
+#include "AppRun.h"
 
-#include <QProcess>
 #include <QSettings>
-#include <QUdpSocket>
 #include <QtTest>
-
-#include <sys/ipc.h>
-#include <sys/sem.h>
-#include <sys/shm.h>
-
-namespace {
-quint16 freeUdpPort()
-{
-    QUdpSocket s;
-    s.bind(QHostAddress(QHostAddress::LocalHost), 0);
-    return s.localPort();
-}
-void removeIpc(int preview, int sem, int audio)
-{
-    for (int key : {preview, audio}) {
-        const int id = shmget(key, 0, 0);
-        if (id >= 0) shmctl(id, IPC_RMID, nullptr);
-    }
-    const int id = semget(sem, 0, 0);
-    if (id >= 0) semctl(id, 0, IPC_RMID);
-}
-} // namespace
 
 class TstSwitcherE2e : public QObject
 {
@@ -53,40 +30,12 @@ private slots:
         QFETCH(QVariantMap, settings);
         TestSysroot root(true);
         QVERIFY(root.isValid());
+        AppRun run(root, 0x6f000000);
+        QVERIFY(run.startSimulator());
+        const QString out = run.runApp(QStringLiteral("e2e/switcherprobe.qml"), 50000, {QStringLiteral("probe-") + page});
+        const QString simOut = run.stopSimulator();
 
-        const int base = 0x6f000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("CS_SYSROOT"), root.root());
-        env.insert(QStringLiteral("CS_MEDIA_PORT"), QString::number(freeUdpPort()));
-        env.insert(QStringLiteral("CS_LISTEN_PORT"), QString::number(freeUdpPort()));
-        env.insert(QStringLiteral("CS_PREVIEW_SHM_KEY"), QString::number(base));
-        env.insert(QStringLiteral("CS_PREVIEW_SEM_KEY"), QString::number(base + 1));
-        env.insert(QStringLiteral("CS_AUDIO_SHM_KEY"), QString::number(base + 2));
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
-        env.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("cs.*.debug=false\ncs.sim.info=true"));
-
-        QProcess sim;
-        sim.setProcessEnvironment(env);
-        sim.setProcessChannelMode(QProcess::MergedChannels);
-        sim.start(QStringLiteral(CS_BINARY_DIR "/sim/cs-mediasim"),
-                  {QStringLiteral("--size"), QStringLiteral("320x180"), QStringLiteral("--fps"), QStringLiteral("10"),
-                   QStringLiteral("--seconds"), QStringLiteral("60")});
-        QVERIFY(sim.waitForStarted(5000));
-
-        QProcess app;
-        env.insert(QStringLiteral("CS_MAIN_QML"), QStringLiteral(CS_SOURCE_DIR "/tests/e2e/switcherprobe.qml"));
-        app.setProcessEnvironment(env);
-        app.setProcessChannelMode(QProcess::MergedChannels);
-        app.start(QStringLiteral(CS_BINARY_DIR "/CSFrontEnd"), {QStringLiteral("probe-") + page});
-        QVERIFY(app.waitForFinished(50000));
-        const QString out = QString::fromLocal8Bit(app.readAll());
-        sim.terminate();
-        sim.waitForFinished(5000);
-        const QString simOut = QString::fromLocal8Bit(sim.readAll());
-        removeIpc(base, base + 1, base + 2);
-
-        QVERIFY2(out.contains(QStringLiteral("PROBE done")), qPrintable(out.right(3000)));
+        QVERIFY2(out.contains(QStringLiteral("PROBE done")), run.tail().constData());
         int from = 0;
         for (const QString &s : simSaw) {
             const int at = simOut.indexOf(s, from);
