@@ -20,7 +20,8 @@ Item {
             console.log("PROBE cut " + sourceIndex)
         }
         function onPushInitInput(mainInput, subInput) {
-            probe.initSeen = true
+            // A restarted simulator starts from its own programme input.
+            if (mainInput === 2) probe.initSeen = true
             console.log("PROBE init " + mainInput + " " + subInput)
         }
     }
@@ -62,8 +63,8 @@ Item {
             ticks++
             // Asked again until answered: a loaded machine may reach the first ask
             // only after the simulator has gone away.
-            if (ticks % 8 === 4 && probe.cut !== 2) manage.uiproc.connectSwitchVideo(2, true)
-            if (ticks === 5) manage.uiproc.connectReadInitInput()
+            if (ticks % 8 === 4 && !(probe.cut === 2 && probe.initSeen)) manage.uiproc.connectSwitchVideo(2, true)
+            if (ticks % 8 === 5 && !probe.initSeen) manage.uiproc.connectReadInitInput()
             if (ticks % 4 === 0) console.log("PROBE second " + ticks / 4 + " frames " + probe.frames)
             if ((probe.cut === 2 && probe.initSeen && probe.frames > 20 && probe.levelsMoved && ticks >= probe.minSeconds * 4) || ticks > 160) {
                 console.log("PROBE result cut=" + probe.cut + " frames=" + probe.frames + " levelsMoved=" + probe.levelsMoved)

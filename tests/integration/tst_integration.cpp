@@ -1,6 +1,6 @@
 // The whole path on a desktop: the real application against the simulator,
 // on private ports, keys and sysroot.
-#include "TestSysroot.h"
+#include "AppRun.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -12,13 +12,6 @@
 #include <sys/shm.h>
 
 namespace {
-quint16 freeUdpPort()
-{
-    QUdpSocket s;
-    s.bind(QHostAddress(QHostAddress::LocalHost), 0);
-    return s.localPort();
-}
-
 struct Keys
 {
     int preview, sem, audio;
@@ -75,8 +68,8 @@ private slots:
         TestSysroot root(true);
         const int base = 0x6c000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8 + (restartSimulator ? 4 : 0);
         const Keys keys{base, base + 1, base + 2};
-        const quint16 media = freeUdpPort();
-        const quint16 listen = freeUdpPort();
+        const quint16 media = AppRun::freeUdpPort();
+        const quint16 listen = AppRun::freeUdpPort();
         const QProcessEnvironment env = environment(root, media, listen, keys);
 
         QProcess sim;
@@ -138,7 +131,7 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("shown");
         QTest::newRow("about") << QStringLiteral("about") << QStringLiteral("about");
-        QTest::newRow("unknown name") << QStringLiteral("scopes") << QString();
+        QTest::newRow("unknown name") << QStringLiteral("no-such-page") << QString();
         QTest::newRow("a document path") << QStringLiteral("../CSQML/AboutPage.qml") << QString();
     }
     void startPage()
@@ -146,22 +139,11 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, shown);
         TestSysroot root(true);
-        const int base = 0x6d000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8;
-        const Keys keys{base, base + 1, base + 2};
-        QProcessEnvironment env = environment(root, freeUdpPort(), freeUdpPort(), keys);
-        QProcess sim;
-        QVERIFY(startSim(sim, env, 60));
-        env.insert(QStringLiteral("CS_MAIN_QML"), QStringLiteral(CS_SOURCE_DIR "/tests/integration/startprobe.qml"));
-        env.insert(QStringLiteral("CS_START_PAGE"), name);
-        QProcess app;
-        app.setProcessEnvironment(env);
-        app.setProcessChannelMode(QProcess::MergedChannels);
-        app.start(QStringLiteral(CS_BINARY_DIR "/CSFrontEnd"), QStringList());
-        QVERIFY(app.waitForFinished(60000));
-        const QString out = QString::fromLocal8Bit(app.readAll());
-        sim.terminate();
-        sim.waitForFinished(5000);
-        removeIpc(keys);
+        AppRun run(root, 0x6d000000);
+        run.env.remove(QStringLiteral("QT_LOGGING_RULES"));
+        run.env.insert(QStringLiteral("CS_START_PAGE"), name);
+        QVERIFY(run.startSimulator());
+        const QString out = run.runApp(QStringLiteral("integration/startprobe.qml"), 60000);
 
         QVERIFY2(out.contains(QStringLiteral("PROBE page=%1 visible=%2").arg(shown, shown.isEmpty() ? "false" : "true")),
                  qPrintable(out.right(3000)));
