@@ -202,11 +202,17 @@ QtObject {
         chosen = c
         followProgramme = settings.autoAudio !== undefined && settings.autoAudio !== 0
         followPip = settings.autoAudio2 !== undefined && settings.autoAudio2 !== 0
-        if (settings.inputAudio !== undefined && settings.inputAudio >= -1 && settings.inputAudio < 8)
-            sendAudio(false, settings.inputAudio)
-        if (settings.inputAudio2 !== undefined && settings.inputAudio2 >= -1 && settings.inputAudio2 < 8)
-            sendAudio(true, settings.inputAudio2)
-        follow()
+        // One command per mix: two sent at once may reach the device in
+        // either order.
+        var saved = [settings.inputAudio, settings.inputAudio2]
+        var following = [followProgramme ? audioFor(live ? live.programmeInput : -1) : -1,
+                         followPip ? audioFor(live ? live.pipInput : -1) : -1]
+        for (var m = 0; m < 2; ++m) {
+            if (following[m] >= 0)
+                sendAudio(m === 1, following[m])
+            else if (saved[m] !== undefined && saved[m] >= -1 && saved[m] < 8)
+                sendAudio(m === 1, saved[m])
+        }
         refreshOutputs()
     }
 }

@@ -106,6 +106,113 @@
     </message>
 </context>
 <context>
+    <name>AudioPage</name>
+    <message>
+        <source>44.1 kHz</source>
+        <translation>44.1 kHz</translation>
+    </message>
+    <message>
+        <source>48 kHz</source>
+        <translation>48 kHz</translation>
+    </message>
+    <message>
+        <source>rate ?</source>
+        <translation>采样率 ?</translation>
+    </message>
+    <message>
+        <source>rate %1</source>
+        <translation>采样率 %1</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>尚未知</translation>
+    </message>
+    <message>
+        <source>No monitor</source>
+        <translation>无显示器</translation>
+    </message>
+    <message>
+        <source>Monitor connected</source>
+        <translation>显示器已连接</translation>
+    </message>
+    <message>
+        <source>Programme sound</source>
+        <translation>节目声音</translation>
+    </message>
+    <message>
+        <source>PIP sound</source>
+        <translation>画中画声音</translation>
+    </message>
+    <message>
+        <source>Follows the picture</source>
+        <translation>跟随画面</translation>
+    </message>
+    <message>
+        <source>On: the sound of the input on %1</source>
+        <translation>开：跟随%1的输入</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>画中画</translation>
+    </message>
+    <message>
+        <source>programme</source>
+        <translation>节目</translation>
+    </message>
+    <message>
+        <source>Off: the source chosen below</source>
+        <translation>关：使用下面选择的音源</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <translation>跟随中</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>电平</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>HDMI output shows (asking the device…)</source>
+        <translation>HDMI 输出显示（正在询问设备…）</translation>
+    </message>
+    <message>
+        <source>HDMI output shows</source>
+        <translation>HDMI 输出显示</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>节目</translation>
+    </message>
+    <message>
+        <source>Multiview</source>
+        <translation>多画面</translation>
+    </message>
+    <message>
+        <source>HDMI output</source>
+        <translation>HDMI 输出</translation>
+    </message>
+    <message>
+        <source>Second HDMI output</source>
+        <translation>第二路 HDMI 输出</translation>
+    </message>
+    <message>
+        <source>Ask the outputs again</source>
+        <translation>重新查询输出</translation>
+    </message>
+</context>
+<context>
     <name>BluetoothPage</name>
     <message>
         <source>The companion app asks to stop the stream. Stop streaming on every channel now?</source>
@@ -656,6 +763,49 @@
     </message>
 </context>
 <context>
+    <name>InputsPage</name>
+    <message>
+        <source>Ask the inputs again</source>
+        <translation>重新查询输入</translation>
+    </message>
+    <message>
+        <source>Asking the device…</source>
+        <translation>正在询问设备…</translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation>无信号</translation>
+    </message>
+    <message>
+        <source>Setting %1…</source>
+        <translation>正在设置 %1…</translation>
+    </message>
+    <message>
+        <source>Chosen here: %1</source>
+        <translation>此处已选：%1</translation>
+    </message>
+    <message>
+        <source>Chosen by the device</source>
+        <translation>由设备选择</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>当前：%1</translation>
+    </message>
+    <message>
+        <source>No current format</source>
+        <translation>无当前格式</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>已选择</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Every text changes at once. On-screen typing uses Latin letters in every language.</source>
@@ -730,6 +880,230 @@
     <message>
         <source>Settings and pages</source>
         <translation>设置与功能</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Switcher</source>
+        <translation>切换台</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+</context>
+<context>
+    <name>NdiPage</name>
+    <message>
+        <source>Not known yet</source>
+        <translation>尚未知晓</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Send programme</source>
+        <translation>发送节目</translation>
+    </message>
+    <message>
+        <source>Receive a source</source>
+        <translation>接收信号源</translation>
+    </message>
+    <message>
+        <source>Sources on the network</source>
+        <translation>网络上的信号源</translation>
+    </message>
+    <message>
+        <source>Search again</source>
+        <translation>重新搜索</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message>
+        <source>No source found</source>
+        <translation>未找到信号源</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n source(s) found</source>
+        <translation>
+            <numerusform>找到 %n 个信号源</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Type a name first.</source>
+        <translation>请先输入名称。</translation>
+    </message>
+    <message>
+        <source>A name can have at most 63 characters.</source>
+        <translation>名称最多 63 个字符。</translation>
+    </message>
+    <message>
+        <source>Use Latin letters, digits, spaces and simple punctuation only.</source>
+        <translation>只能使用拉丁字母、数字、空格和简单标点。</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>No group name</source>
+        <translation>无组名</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>No channel name</source>
+        <translation>无通道名</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>No device name</source>
+        <translation>无设备名</translation>
+    </message>
+    <message>
+        <source>Asking the device…</source>
+        <translation>正在询问设备…</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>UDP</source>
+        <translation>UDP</translation>
+    </message>
+    <message>
+        <source>Multi-TCP</source>
+        <translation>多路 TCP</translation>
+    </message>
+    <message>
+        <source>Multicast</source>
+        <translation>组播</translation>
+    </message>
+    <message>
+        <source>TTL (hops)</source>
+        <translation>TTL（跳数）</translation>
+    </message>
+    <message>
+        <source>Multicast address</source>
+        <translation>组播地址</translation>
+    </message>
+    <message>
+        <source>Netmask</source>
+        <translation>子网掩码</translation>
+    </message>
+    <message>
+        <source>TTL must be a whole number from 1 to 255.</source>
+        <translation>TTL 必须是 1 到 255 的整数。</translation>
+    </message>
+    <message>
+        <source>The address must be four numbers from 0 to 255 with dots between.</source>
+        <translation>地址必须是四个 0 到 255 的数字，用点分隔。</translation>
+    </message>
+    <message>
+        <source>Multicast needs a group address from 224.0.0.0 to 239.255.255.255.</source>
+        <translation>组播需要 224.0.0.0 到 239.255.255.255 之间的组地址。</translation>
+    </message>
+    <message>
+        <source>The netmask must look like 255.255.255.0.</source>
+        <translation>子网掩码格式应如 255.255.255.0。</translation>
+    </message>
+    <message>
+        <source>Apply connection</source>
+        <translation>应用连接</translation>
+    </message>
+    <message>
+        <source>Device: %1, TTL %2, %3 / %4</source>
+        <translation>设备：%1，TTL %2，%3 / %4</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>数据类型</translation>
+    </message>
+    <message>
+        <source>Bandwidth</source>
+        <translation>带宽</translation>
+    </message>
+    <message>
+        <source>Full NDI</source>
+        <translation>完整 NDI</translation>
+    </message>
+    <message>
+        <source>NDI HX</source>
+        <translation>NDI HX</translation>
+    </message>
+    <message>
+        <source>Compression (NDI HX only)</source>
+        <translation>压缩（仅 NDI HX）</translation>
+    </message>
+    <message>
+        <source>Sent now</source>
+        <translation>当前发送</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>帧率</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 帧/秒</translation>
+    </message>
+    <message>
+        <source>Bit rate</source>
+        <translation>码率</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>Audio sample rate</source>
+        <translation>音频采样率</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
     </message>
 </context>
 <context>
@@ -952,6 +1326,93 @@
         <source>Devices, companion app</source>
         <translation>设备、手机助手</translation>
     </message>
+    <message>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <source>Send, receive, sources, names</source>
+        <translation>发送、接收、信号源、名称</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom, presets</source>
+        <translation>平移、俯仰、变焦、预置位</translation>
+    </message>
+    <message>
+        <source>Scopes</source>
+        <translation>示波器</translation>
+    </message>
+    <message>
+        <source>Scopes, safe frames</source>
+        <translation>示波器、安全框</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>输入</translation>
+    </message>
+    <message>
+        <source>Formats per input</source>
+        <translation>各输入的格式</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>画中画</translation>
+    </message>
+    <message>
+        <source>Picture in picture: layout, sources</source>
+        <translation>画中画：布局、信号源</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Sound sources, levels, HDMI outputs</source>
+        <translation>音源、电平、HDMI 输出</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>摄像机</translation>
+    </message>
+</context>
+<context>
+    <name>PipPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>画中画</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Picture 1 shows</source>
+        <translation>画面 1 显示</translation>
+    </message>
+    <message>
+        <source>Picture 2 shows</source>
+        <translation>画面 2 显示</translation>
+    </message>
+    <message>
+        <source>Picture 2 shows (only in the layout with two pictures)</source>
+        <translation>画面 2 显示（仅用于双画面布局）</translation>
+    </message>
+    <message>
+        <source>Picture 1 shows the programme input itself.</source>
+        <translation>画面 1 显示的就是节目输入本身。</translation>
+    </message>
 </context>
 <context>
     <name>PlatformsPage</name>
@@ -1019,6 +1480,145 @@
     <message>
         <source>No preview from the media service</source>
         <translation>媒体服务无预览画面</translation>
+    </message>
+</context>
+<context>
+    <name>PtzPage</name>
+    <message>
+        <source>Not supported by this camera</source>
+        <translation>此摄像机不支持</translation>
+    </message>
+    <message>
+        <source>Asking…</source>
+        <translation>正在询问…</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>摄像机</translation>
+    </message>
+    <message>
+        <source>USB camera 1</source>
+        <translation>USB 摄像机 1</translation>
+    </message>
+    <message>
+        <source>USB camera 2</source>
+        <translation>USB 摄像机 2</translation>
+    </message>
+    <message>
+        <source>This camera is on air</source>
+        <translation>此摄像机正在播出</translation>
+    </message>
+    <message>
+        <source>Move (hold)</source>
+        <translation>移动（按住）</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>移动中</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>静止</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Auto focus</source>
+        <translation>自动对焦</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>尚未知晓</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>预置位</translation>
+    </message>
+    <message>
+        <source>Cancel storing</source>
+        <translation>取消保存</translation>
+    </message>
+    <message>
+        <source>Store the position…</source>
+        <translation>保存当前位置…</translation>
+    </message>
+    <message>
+        <source>Touch the preset to keep this position in</source>
+        <translation>点击要保存此位置的预置位</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>预置位 %1</translation>
+    </message>
+    <message>
+        <source>Store here</source>
+        <translation>保存到此</translation>
+    </message>
+    <message>
+        <source>Camera is here</source>
+        <translation>摄像机在此</translation>
+    </message>
+    <message>
+        <source>Picture style</source>
+        <translation>画面风格</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Vivid</source>
+        <translation>鲜艳</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>柔和</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>黑白</translation>
+    </message>
+    <message>
+        <source>This camera offers no picture styles.</source>
+        <translation>此摄像机没有画面风格。</translation>
+    </message>
+    <message>
+        <source>Style %1</source>
+        <translation>风格 %1</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>已选择</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1774,100 @@
     <message>
         <source>The recording still being made cannot be renamed.</source>
         <translation>正在录制的文件不能重命名。</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFrameGuide</name>
+    <message>
+        <source>Action safe</source>
+        <translation>动作安全区</translation>
+    </message>
+    <message>
+        <source>Title safe</source>
+        <translation>字幕安全区</translation>
+    </message>
+</context>
+<context>
+    <name>ScopesPage</name>
+    <message>
+        <source>Histogram</source>
+        <translation>直方图</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>波形图</translation>
+    </message>
+    <message>
+        <source>RGB parade</source>
+        <translation>RGB 分量图</translation>
+    </message>
+    <message>
+        <source>Vectorscope</source>
+        <translation>矢量示波器</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>示波器</translation>
+    </message>
+    <message>
+        <source>%1: where it shows</source>
+        <translation>%1：显示位置</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>Safe frames on the preview</source>
+        <translation>预览上的安全框</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>16:9 safe areas</source>
+        <translation>16:9 安全区</translation>
+    </message>
+    <message>
+        <source>Action and title safe</source>
+        <translation>动作与字幕安全区</translation>
+    </message>
+    <message>
+        <source>4:3</source>
+        <translation>4:3</translation>
+    </message>
+    <message>
+        <source>Centre cut for 4:3</source>
+        <translation>4:3 中心裁切</translation>
+    </message>
+    <message>
+        <source>9:16</source>
+        <translation>9:16</translation>
+    </message>
+    <message>
+        <source>Vertical video guide</source>
+        <translation>竖屏视频参考线</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +2071,53 @@
     <message>
         <source>An event name cannot hold a slash or a backslash.</source>
         <translation>活动名称不能包含斜杠或反斜杠。</translation>
+    </message>
+</context>
+<context>
+    <name>SwitcherStore</name>
+    <message>
+        <source>HDMI 1</source>
+        <translation>HDMI 1</translation>
+    </message>
+    <message>
+        <source>HDMI 2</source>
+        <translation>HDMI 2</translation>
+    </message>
+    <message>
+        <source>USB camera 1</source>
+        <translation>USB 摄像头 1</translation>
+    </message>
+    <message>
+        <source>USB camera 2</source>
+        <translation>USB 摄像头 2</translation>
+    </message>
+    <message>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation>左右并排</translation>
+    </message>
+    <message>
+        <source>Two pictures</source>
+        <translation>双画面</translation>
     </message>
 </context>
 <context>

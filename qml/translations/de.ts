@@ -107,6 +107,113 @@
     </message>
 </context>
 <context>
+    <name>AudioPage</name>
+    <message>
+        <source>44.1 kHz</source>
+        <translation>44,1 kHz</translation>
+    </message>
+    <message>
+        <source>48 kHz</source>
+        <translation>48 kHz</translation>
+    </message>
+    <message>
+        <source>rate ?</source>
+        <translation>Rate ?</translation>
+    </message>
+    <message>
+        <source>rate %1</source>
+        <translation>Rate %1</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>Noch unbekannt</translation>
+    </message>
+    <message>
+        <source>No monitor</source>
+        <translation>Kein Monitor</translation>
+    </message>
+    <message>
+        <source>Monitor connected</source>
+        <translation>Monitor angeschlossen</translation>
+    </message>
+    <message>
+        <source>Programme sound</source>
+        <translation>Programmton</translation>
+    </message>
+    <message>
+        <source>PIP sound</source>
+        <translation>BiB-Ton</translation>
+    </message>
+    <message>
+        <source>Follows the picture</source>
+        <translation>Folgt dem Bild</translation>
+    </message>
+    <message>
+        <source>On: the sound of the input on %1</source>
+        <translation>Ein: Ton des Eingangs auf %1</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>BiB</translation>
+    </message>
+    <message>
+        <source>programme</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Off: the source chosen below</source>
+        <translation>Aus: unten gewählte Quelle</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <translation>Folgt</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Pegel</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+    <message>
+        <source>HDMI output shows (asking the device…)</source>
+        <translation>HDMI-Ausgang zeigt (Gerät wird gefragt…)</translation>
+    </message>
+    <message>
+        <source>HDMI output shows</source>
+        <translation>HDMI-Ausgang zeigt</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Multiview</source>
+        <translation>Multiview</translation>
+    </message>
+    <message>
+        <source>HDMI output</source>
+        <translation>HDMI-Ausgang</translation>
+    </message>
+    <message>
+        <source>Second HDMI output</source>
+        <translation>Zweiter HDMI-Ausgang</translation>
+    </message>
+    <message>
+        <source>Ask the outputs again</source>
+        <translation>Ausgänge neu abfragen</translation>
+    </message>
+</context>
+<context>
     <name>BluetoothPage</name>
     <message>
         <source>The companion app asks to stop the stream. Stop streaming on every channel now?</source>
@@ -657,6 +764,49 @@
     </message>
 </context>
 <context>
+    <name>InputsPage</name>
+    <message>
+        <source>Ask the inputs again</source>
+        <translation>Eingänge neu abfragen</translation>
+    </message>
+    <message>
+        <source>Asking the device…</source>
+        <translation>Gerät wird gefragt…</translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation>Kein Signal</translation>
+    </message>
+    <message>
+        <source>Setting %1…</source>
+        <translation>%1 wird gesetzt…</translation>
+    </message>
+    <message>
+        <source>Chosen here: %1</source>
+        <translation>Hier gewählt: %1</translation>
+    </message>
+    <message>
+        <source>Chosen by the device</source>
+        <translation>Vom Gerät gewählt</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Jetzt: %1</translation>
+    </message>
+    <message>
+        <source>No current format</source>
+        <translation>Kein aktuelles Format</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Gewählt</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Every text changes at once. On-screen typing uses Latin letters in every language.</source>
@@ -731,6 +881,231 @@
     <message>
         <source>Settings and pages</source>
         <translation>Einstellungen und Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Switcher</source>
+        <translation>Bildmischer</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+</context>
+<context>
+    <name>NdiPage</name>
+    <message>
+        <source>Not known yet</source>
+        <translation>Noch unbekannt</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Send programme</source>
+        <translation>Programm senden</translation>
+    </message>
+    <message>
+        <source>Receive a source</source>
+        <translation>Quelle empfangen</translation>
+    </message>
+    <message>
+        <source>Sources on the network</source>
+        <translation>Quellen im Netzwerk</translation>
+    </message>
+    <message>
+        <source>Search again</source>
+        <translation>Erneut suchen</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft…</translation>
+    </message>
+    <message>
+        <source>No source found</source>
+        <translation>Keine Quelle gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n source(s) found</source>
+        <translation>
+            <numerusform>%n Quelle gefunden</numerusform>
+            <numerusform>%n Quellen gefunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Gewählt</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Type a name first.</source>
+        <translation>Bitte zuerst einen Namen eingeben.</translation>
+    </message>
+    <message>
+        <source>A name can have at most 63 characters.</source>
+        <translation>Ein Name hat höchstens 63 Zeichen.</translation>
+    </message>
+    <message>
+        <source>Use Latin letters, digits, spaces and simple punctuation only.</source>
+        <translation>Nur lateinische Buchstaben, Ziffern, Leerzeichen und einfache Satzzeichen.</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>No group name</source>
+        <translation>Kein Gruppenname</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>No channel name</source>
+        <translation>Kein Kanalname</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>No device name</source>
+        <translation>Kein Gerätename</translation>
+    </message>
+    <message>
+        <source>Asking the device…</source>
+        <translation>Gerät wird gefragt…</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Setzen</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>UDP</source>
+        <translation>UDP</translation>
+    </message>
+    <message>
+        <source>Multi-TCP</source>
+        <translation>Multi-TCP</translation>
+    </message>
+    <message>
+        <source>Multicast</source>
+        <translation>Multicast</translation>
+    </message>
+    <message>
+        <source>TTL (hops)</source>
+        <translation>TTL (Hops)</translation>
+    </message>
+    <message>
+        <source>Multicast address</source>
+        <translation>Multicast-Adresse</translation>
+    </message>
+    <message>
+        <source>Netmask</source>
+        <translation>Netzmaske</translation>
+    </message>
+    <message>
+        <source>TTL must be a whole number from 1 to 255.</source>
+        <translation>TTL muss eine ganze Zahl von 1 bis 255 sein.</translation>
+    </message>
+    <message>
+        <source>The address must be four numbers from 0 to 255 with dots between.</source>
+        <translation>Die Adresse besteht aus vier Zahlen von 0 bis 255 mit Punkten dazwischen.</translation>
+    </message>
+    <message>
+        <source>Multicast needs a group address from 224.0.0.0 to 239.255.255.255.</source>
+        <translation>Multicast braucht eine Gruppenadresse von 224.0.0.0 bis 239.255.255.255.</translation>
+    </message>
+    <message>
+        <source>The netmask must look like 255.255.255.0.</source>
+        <translation>Die Netzmaske muss wie 255.255.255.0 aussehen.</translation>
+    </message>
+    <message>
+        <source>Apply connection</source>
+        <translation>Verbindung anwenden</translation>
+    </message>
+    <message>
+        <source>Device: %1, TTL %2, %3 / %4</source>
+        <translation>Gerät: %1, TTL %2, %3 / %4</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>Datentyp</translation>
+    </message>
+    <message>
+        <source>Bandwidth</source>
+        <translation>Bandbreite</translation>
+    </message>
+    <message>
+        <source>Full NDI</source>
+        <translation>Volles NDI</translation>
+    </message>
+    <message>
+        <source>NDI HX</source>
+        <translation>NDI HX</translation>
+    </message>
+    <message>
+        <source>Compression (NDI HX only)</source>
+        <translation>Kompression (nur NDI HX)</translation>
+    </message>
+    <message>
+        <source>Sent now</source>
+        <translation>Jetzt gesendet</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 Bilder/s</translation>
+    </message>
+    <message>
+        <source>Bit rate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>Audio sample rate</source>
+        <translation>Audio-Abtastrate</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
     </message>
 </context>
 <context>
@@ -953,6 +1328,93 @@
         <source>Devices, companion app</source>
         <translation>Geräte, Begleit-App</translation>
     </message>
+    <message>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <source>Send, receive, sources, names</source>
+        <translation>Senden, Empfangen, Quellen, Namen</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom, presets</source>
+        <translation>Schwenken, Neigen, Zoom, Positionen</translation>
+    </message>
+    <message>
+        <source>Scopes</source>
+        <translation>Messanzeigen</translation>
+    </message>
+    <message>
+        <source>Scopes, safe frames</source>
+        <translation>Messanzeigen, Sicherheitsrahmen</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingänge</translation>
+    </message>
+    <message>
+        <source>Formats per input</source>
+        <translation>Formate je Eingang</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>BiB</translation>
+    </message>
+    <message>
+        <source>Picture in picture: layout, sources</source>
+        <translation>Bild im Bild: Anordnung, Quellen</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Sound sources, levels, HDMI outputs</source>
+        <translation>Tonquellen, Pegel, HDMI-Ausgänge</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+</context>
+<context>
+    <name>PipPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Bild im Bild</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
+    <message>
+        <source>Picture 1 shows</source>
+        <translation>Bild 1 zeigt</translation>
+    </message>
+    <message>
+        <source>Picture 2 shows</source>
+        <translation>Bild 2 zeigt</translation>
+    </message>
+    <message>
+        <source>Picture 2 shows (only in the layout with two pictures)</source>
+        <translation>Bild 2 zeigt (nur in der Anordnung mit zwei Bildern)</translation>
+    </message>
+    <message>
+        <source>Picture 1 shows the programme input itself.</source>
+        <translation>Bild 1 zeigt den Programmeingang selbst.</translation>
+    </message>
 </context>
 <context>
     <name>PlatformsPage</name>
@@ -1021,6 +1483,145 @@
     <message>
         <source>No preview from the media service</source>
         <translation>Keine Vorschau vom Mediendienst</translation>
+    </message>
+</context>
+<context>
+    <name>PtzPage</name>
+    <message>
+        <source>Not supported by this camera</source>
+        <translation>Von dieser Kamera nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Asking…</source>
+        <translation>Wird gefragt…</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>USB camera 1</source>
+        <translation>USB-Kamera 1</translation>
+    </message>
+    <message>
+        <source>USB camera 2</source>
+        <translation>USB-Kamera 2</translation>
+    </message>
+    <message>
+        <source>This camera is on air</source>
+        <translation>Diese Kamera ist auf Sendung</translation>
+    </message>
+    <message>
+        <source>Move (hold)</source>
+        <translation>Bewegen (halten)</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Bewegt</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Steht</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Runter</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom +</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom −</translation>
+    </message>
+    <message>
+        <source>Auto focus</source>
+        <translation>Autofokus</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>Noch unbekannt</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Cancel storing</source>
+        <translation>Speichern abbrechen</translation>
+    </message>
+    <message>
+        <source>Store the position…</source>
+        <translation>Position speichern…</translation>
+    </message>
+    <message>
+        <source>Touch the preset to keep this position in</source>
+        <translation>Voreinstellung antippen, um die Position dort zu speichern</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>Position %1</translation>
+    </message>
+    <message>
+        <source>Store here</source>
+        <translation>Hier speichern</translation>
+    </message>
+    <message>
+        <source>Camera is here</source>
+        <translation>Kamera ist hier</translation>
+    </message>
+    <message>
+        <source>Picture style</source>
+        <translation>Bildstil</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Vivid</source>
+        <translation>Lebhaft</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>Weich</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>This camera offers no picture styles.</source>
+        <translation>Diese Kamera bietet keine Bildstile.</translation>
+    </message>
+    <message>
+        <source>Style %1</source>
+        <translation>Stil %1</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Gewählt</translation>
     </message>
 </context>
 <context>
@@ -1178,6 +1779,100 @@
     <message>
         <source>The recording still being made cannot be renamed.</source>
         <translation>Die laufende Aufnahme kann nicht umbenannt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFrameGuide</name>
+    <message>
+        <source>Action safe</source>
+        <translation>Action-Bereich</translation>
+    </message>
+    <message>
+        <source>Title safe</source>
+        <translation>Titelbereich</translation>
+    </message>
+</context>
+<context>
+    <name>ScopesPage</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>RGB parade</source>
+        <translation>RGB-Parade</translation>
+    </message>
+    <message>
+        <source>Vectorscope</source>
+        <translation>Vektorskop</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Messanzeige</translation>
+    </message>
+    <message>
+        <source>%1: where it shows</source>
+        <translation>%1: Position</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählt</translation>
+    </message>
+    <message>
+        <source>Safe frames on the preview</source>
+        <translation>Sicherheitsrahmen in der Vorschau</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>16:9 safe areas</source>
+        <translation>16:9-Sicherheitsbereiche</translation>
+    </message>
+    <message>
+        <source>Action and title safe</source>
+        <translation>Action- und Titelbereich</translation>
+    </message>
+    <message>
+        <source>4:3</source>
+        <translation>4:3</translation>
+    </message>
+    <message>
+        <source>Centre cut for 4:3</source>
+        <translation>Mittelausschnitt 4:3</translation>
+    </message>
+    <message>
+        <source>9:16</source>
+        <translation>9:16</translation>
+    </message>
+    <message>
+        <source>Vertical video guide</source>
+        <translation>Hilfslinien Hochformat</translation>
     </message>
 </context>
 <context>
@@ -1384,6 +2079,53 @@
     <message>
         <source>An event name cannot hold a slash or a backslash.</source>
         <translation>Ein Event-Name darf keinen Schrägstrich oder Backslash enthalten.</translation>
+    </message>
+</context>
+<context>
+    <name>SwitcherStore</name>
+    <message>
+        <source>HDMI 1</source>
+        <translation>HDMI 1</translation>
+    </message>
+    <message>
+        <source>HDMI 2</source>
+        <translation>HDMI 2</translation>
+    </message>
+    <message>
+        <source>USB camera 1</source>
+        <translation>USB-Kamera 1</translation>
+    </message>
+    <message>
+        <source>USB camera 2</source>
+        <translation>USB-Kamera 2</translation>
+    </message>
+    <message>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation>Nebeneinander</translation>
+    </message>
+    <message>
+        <source>Two pictures</source>
+        <translation>Zwei Bilder</translation>
     </message>
 </context>
 <context>

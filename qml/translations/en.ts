@@ -107,6 +107,113 @@
     </message>
 </context>
 <context>
+    <name>AudioPage</name>
+    <message>
+        <source>44.1 kHz</source>
+        <translation>44.1 kHz</translation>
+    </message>
+    <message>
+        <source>48 kHz</source>
+        <translation>48 kHz</translation>
+    </message>
+    <message>
+        <source>rate ?</source>
+        <translation>rate ?</translation>
+    </message>
+    <message>
+        <source>rate %1</source>
+        <translation>rate %1</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>Not known yet</translation>
+    </message>
+    <message>
+        <source>No monitor</source>
+        <translation>No monitor</translation>
+    </message>
+    <message>
+        <source>Monitor connected</source>
+        <translation>Monitor connected</translation>
+    </message>
+    <message>
+        <source>Programme sound</source>
+        <translation>Programme sound</translation>
+    </message>
+    <message>
+        <source>PIP sound</source>
+        <translation>PIP sound</translation>
+    </message>
+    <message>
+        <source>Follows the picture</source>
+        <translation>Follows the picture</translation>
+    </message>
+    <message>
+        <source>On: the sound of the input on %1</source>
+        <translation>On: the sound of the input on %1</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>programme</source>
+        <translation>programme</translation>
+    </message>
+    <message>
+        <source>Off: the source chosen below</source>
+        <translation>Off: the source chosen below</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Following</source>
+        <translation>Following</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Levels</translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Outputs</translation>
+    </message>
+    <message>
+        <source>HDMI output shows (asking the device…)</source>
+        <translation>HDMI output shows (asking the device…)</translation>
+    </message>
+    <message>
+        <source>HDMI output shows</source>
+        <translation>HDMI output shows</translation>
+    </message>
+    <message>
+        <source>Programme</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Multiview</source>
+        <translation>Multiview</translation>
+    </message>
+    <message>
+        <source>HDMI output</source>
+        <translation>HDMI output</translation>
+    </message>
+    <message>
+        <source>Second HDMI output</source>
+        <translation>Second HDMI output</translation>
+    </message>
+    <message>
+        <source>Ask the outputs again</source>
+        <translation>Ask the outputs again</translation>
+    </message>
+</context>
+<context>
     <name>BluetoothPage</name>
     <message>
         <source>The companion app asks to stop the stream. Stop streaming on every channel now?</source>
@@ -657,6 +764,49 @@
     </message>
 </context>
 <context>
+    <name>InputsPage</name>
+    <message>
+        <source>Ask the inputs again</source>
+        <translation>Ask the inputs again</translation>
+    </message>
+    <message>
+        <source>Asking the device…</source>
+        <translation>Asking the device…</translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation>No signal</translation>
+    </message>
+    <message>
+        <source>Setting %1…</source>
+        <translation>Setting %1…</translation>
+    </message>
+    <message>
+        <source>Chosen here: %1</source>
+        <translation>Chosen here: %1</translation>
+    </message>
+    <message>
+        <source>Chosen by the device</source>
+        <translation>Chosen by the device</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Now: %1</translation>
+    </message>
+    <message>
+        <source>No current format</source>
+        <translation>No current format</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Running</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Chosen</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePage</name>
     <message>
         <source>Every text changes at once. On-screen typing uses Latin letters in every language.</source>
@@ -731,6 +881,231 @@
     <message>
         <source>Settings and pages</source>
         <translation>Settings and pages</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Switcher</source>
+        <translation>Switcher</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+</context>
+<context>
+    <name>NdiPage</name>
+    <message>
+        <source>Not known yet</source>
+        <translation>Not known yet</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Send programme</source>
+        <translation>Send programme</translation>
+    </message>
+    <message>
+        <source>Receive a source</source>
+        <translation>Receive a source</translation>
+    </message>
+    <message>
+        <source>Sources on the network</source>
+        <translation>Sources on the network</translation>
+    </message>
+    <message>
+        <source>Search again</source>
+        <translation>Search again</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Searching…</translation>
+    </message>
+    <message>
+        <source>No source found</source>
+        <translation>No source found</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n source(s) found</source>
+        <translation>
+            <numerusform>%n source found</numerusform>
+            <numerusform>%n sources found</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Chosen</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Names</translation>
+    </message>
+    <message>
+        <source>Type a name first.</source>
+        <translation>Type a name first.</translation>
+    </message>
+    <message>
+        <source>A name can have at most 63 characters.</source>
+        <translation>A name can have at most 63 characters.</translation>
+    </message>
+    <message>
+        <source>Use Latin letters, digits, spaces and simple punctuation only.</source>
+        <translation>Use Latin letters, digits, spaces and simple punctuation only.</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>No group name</source>
+        <translation>No group name</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>No channel name</source>
+        <translation>No channel name</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>No device name</source>
+        <translation>No device name</translation>
+    </message>
+    <message>
+        <source>Asking the device…</source>
+        <translation>Asking the device…</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connection</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>TCP</source>
+        <translation>TCP</translation>
+    </message>
+    <message>
+        <source>UDP</source>
+        <translation>UDP</translation>
+    </message>
+    <message>
+        <source>Multi-TCP</source>
+        <translation>Multi-TCP</translation>
+    </message>
+    <message>
+        <source>Multicast</source>
+        <translation>Multicast</translation>
+    </message>
+    <message>
+        <source>TTL (hops)</source>
+        <translation>TTL (hops)</translation>
+    </message>
+    <message>
+        <source>Multicast address</source>
+        <translation>Multicast address</translation>
+    </message>
+    <message>
+        <source>Netmask</source>
+        <translation>Netmask</translation>
+    </message>
+    <message>
+        <source>TTL must be a whole number from 1 to 255.</source>
+        <translation>TTL must be a whole number from 1 to 255.</translation>
+    </message>
+    <message>
+        <source>The address must be four numbers from 0 to 255 with dots between.</source>
+        <translation>The address must be four numbers from 0 to 255 with dots between.</translation>
+    </message>
+    <message>
+        <source>Multicast needs a group address from 224.0.0.0 to 239.255.255.255.</source>
+        <translation>Multicast needs a group address from 224.0.0.0 to 239.255.255.255.</translation>
+    </message>
+    <message>
+        <source>The netmask must look like 255.255.255.0.</source>
+        <translation>The netmask must look like 255.255.255.0.</translation>
+    </message>
+    <message>
+        <source>Apply connection</source>
+        <translation>Apply connection</translation>
+    </message>
+    <message>
+        <source>Device: %1, TTL %2, %3 / %4</source>
+        <translation>Device: %1, TTL %2, %3 / %4</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>Data type</translation>
+    </message>
+    <message>
+        <source>Bandwidth</source>
+        <translation>Bandwidth</translation>
+    </message>
+    <message>
+        <source>Full NDI</source>
+        <translation>Full NDI</translation>
+    </message>
+    <message>
+        <source>NDI HX</source>
+        <translation>NDI HX</translation>
+    </message>
+    <message>
+        <source>Compression (NDI HX only)</source>
+        <translation>Compression (NDI HX only)</translation>
+    </message>
+    <message>
+        <source>Sent now</source>
+        <translation>Sent now</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>not known</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 frames/s</translation>
+    </message>
+    <message>
+        <source>Bit rate</source>
+        <translation>Bit rate</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>Audio sample rate</source>
+        <translation>Audio sample rate</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
     </message>
 </context>
 <context>
@@ -953,6 +1328,93 @@
         <source>Devices, companion app</source>
         <translation>Devices, companion app</translation>
     </message>
+    <message>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <source>Send, receive, sources, names</source>
+        <translation>Send, receive, sources, names</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom, presets</source>
+        <translation>Pan, tilt, zoom, presets</translation>
+    </message>
+    <message>
+        <source>Scopes</source>
+        <translation>Scopes</translation>
+    </message>
+    <message>
+        <source>Scopes, safe frames</source>
+        <translation>Scopes, safe frames</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Inputs</translation>
+    </message>
+    <message>
+        <source>Formats per input</source>
+        <translation>Formats per input</translation>
+    </message>
+    <message>
+        <source>PIP</source>
+        <translation>PIP</translation>
+    </message>
+    <message>
+        <source>Picture in picture: layout, sources</source>
+        <translation>Picture in picture: layout, sources</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Sound sources, levels, HDMI outputs</source>
+        <translation>Sound sources, levels, HDMI outputs</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Cameras</translation>
+    </message>
+</context>
+<context>
+    <name>PipPage</name>
+    <message>
+        <source>Picture in picture</source>
+        <translation>Picture in picture</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+    <message>
+        <source>Picture 1 shows</source>
+        <translation>Picture 1 shows</translation>
+    </message>
+    <message>
+        <source>Picture 2 shows</source>
+        <translation>Picture 2 shows</translation>
+    </message>
+    <message>
+        <source>Picture 2 shows (only in the layout with two pictures)</source>
+        <translation>Picture 2 shows (only in the layout with two pictures)</translation>
+    </message>
+    <message>
+        <source>Picture 1 shows the programme input itself.</source>
+        <translation>Picture 1 shows the programme input itself.</translation>
+    </message>
 </context>
 <context>
     <name>PlatformsPage</name>
@@ -1021,6 +1483,145 @@
     <message>
         <source>No preview from the media service</source>
         <translation>No preview from the media service</translation>
+    </message>
+</context>
+<context>
+    <name>PtzPage</name>
+    <message>
+        <source>Not supported by this camera</source>
+        <translation>Not supported by this camera</translation>
+    </message>
+    <message>
+        <source>Asking…</source>
+        <translation>Asking…</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>USB camera 1</source>
+        <translation>USB camera 1</translation>
+    </message>
+    <message>
+        <source>USB camera 2</source>
+        <translation>USB camera 2</translation>
+    </message>
+    <message>
+        <source>This camera is on air</source>
+        <translation>This camera is on air</translation>
+    </message>
+    <message>
+        <source>Move (hold)</source>
+        <translation>Move (hold)</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Moving</source>
+        <translation>Moving</translation>
+    </message>
+    <message>
+        <source>Still</source>
+        <translation>Still</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>Auto focus</source>
+        <translation>Auto focus</translation>
+    </message>
+    <message>
+        <source>Not known yet</source>
+        <translation>Not known yet</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Presets</translation>
+    </message>
+    <message>
+        <source>Cancel storing</source>
+        <translation>Cancel storing</translation>
+    </message>
+    <message>
+        <source>Store the position…</source>
+        <translation>Store the position…</translation>
+    </message>
+    <message>
+        <source>Touch the preset to keep this position in</source>
+        <translation>Touch the preset to keep this position in</translation>
+    </message>
+    <message>
+        <source>Preset %1</source>
+        <translation>Preset %1</translation>
+    </message>
+    <message>
+        <source>Store here</source>
+        <translation>Store here</translation>
+    </message>
+    <message>
+        <source>Camera is here</source>
+        <translation>Camera is here</translation>
+    </message>
+    <message>
+        <source>Picture style</source>
+        <translation>Picture style</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Vivid</source>
+        <translation>Vivid</translation>
+    </message>
+    <message>
+        <source>Soft</source>
+        <translation>Soft</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Black and white</translation>
+    </message>
+    <message>
+        <source>This camera offers no picture styles.</source>
+        <translation>This camera offers no picture styles.</translation>
+    </message>
+    <message>
+        <source>Style %1</source>
+        <translation>Style %1</translation>
+    </message>
+    <message>
+        <source>Chosen</source>
+        <translation>Chosen</translation>
     </message>
 </context>
 <context>
@@ -1178,6 +1779,100 @@
     <message>
         <source>The recording still being made cannot be renamed.</source>
         <translation>The recording still being made cannot be renamed.</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFrameGuide</name>
+    <message>
+        <source>Action safe</source>
+        <translation>Action safe</translation>
+    </message>
+    <message>
+        <source>Title safe</source>
+        <translation>Title safe</translation>
+    </message>
+</context>
+<context>
+    <name>ScopesPage</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogram</translation>
+    </message>
+    <message>
+        <source>Waveform</source>
+        <translation>Waveform</translation>
+    </message>
+    <message>
+        <source>RGB parade</source>
+        <translation>RGB parade</translation>
+    </message>
+    <message>
+        <source>Vectorscope</source>
+        <translation>Vectorscope</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Top left</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Top right</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Bottom left</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Bottom right</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Scope</translation>
+    </message>
+    <message>
+        <source>%1: where it shows</source>
+        <translation>%1: where it shows</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selected</translation>
+    </message>
+    <message>
+        <source>Safe frames on the preview</source>
+        <translation>Safe frames on the preview</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>16:9 safe areas</source>
+        <translation>16:9 safe areas</translation>
+    </message>
+    <message>
+        <source>Action and title safe</source>
+        <translation>Action and title safe</translation>
+    </message>
+    <message>
+        <source>4:3</source>
+        <translation>4:3</translation>
+    </message>
+    <message>
+        <source>Centre cut for 4:3</source>
+        <translation>Centre cut for 4:3</translation>
+    </message>
+    <message>
+        <source>9:16</source>
+        <translation>9:16</translation>
+    </message>
+    <message>
+        <source>Vertical video guide</source>
+        <translation>Vertical video guide</translation>
     </message>
 </context>
 <context>
@@ -1384,6 +2079,53 @@
     <message>
         <source>An event name cannot hold a slash or a backslash.</source>
         <translation>An event name cannot hold a slash or a backslash.</translation>
+    </message>
+</context>
+<context>
+    <name>SwitcherStore</name>
+    <message>
+        <source>HDMI 1</source>
+        <translation>HDMI 1</translation>
+    </message>
+    <message>
+        <source>HDMI 2</source>
+        <translation>HDMI 2</translation>
+    </message>
+    <message>
+        <source>USB camera 1</source>
+        <translation>USB camera 1</translation>
+    </message>
+    <message>
+        <source>USB camera 2</source>
+        <translation>USB camera 2</translation>
+    </message>
+    <message>
+        <source>NDI</source>
+        <translation>NDI</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Top left</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Top right</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Bottom left</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Bottom right</translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation>Side by side</translation>
+    </message>
+    <message>
+        <source>Two pictures</source>
+        <translation>Two pictures</translation>
     </message>
 </context>
 <context>

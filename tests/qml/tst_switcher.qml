@@ -130,6 +130,21 @@ Item {
             compare(fakeManage.saved, data.saved)
         }
 
+        function test_startTellsTheDeviceOnce_data() {
+            return [{ tag: "programme follows, PIP none", settings: { autoAudio: 1, inputAudio: 3, inputAudio2: -1 }, audio: ["audio 4", "audio 31"] },
+                    { tag: "by hand", settings: { autoAudio: 0, inputAudio: 3, autoAudio2: 1 }, audio: ["audio 3", "audio 18"] },
+                    { tag: "nothing saved", settings: { UVC1VideoFormat: "1280x720@30" }, audio: [] }]
+        }
+        function test_startTellsTheDeviceOnce(data) {
+            fakeLive.programmeInput = 2
+            fakeLive.pipInput = 1
+            store.start(data.settings)
+            compare(fakeManage.sent, data.audio.concat(["hdmiStyle 1 0", "hdmi2?", "output?"]))
+            compare(fakeManage.saved, [], "nothing saved at start")
+            if (data.settings.UVC1VideoFormat)
+                compare(store.chosen[2], "1280x720@30")
+        }
+
         function test_outputReportsShow() {
             store.setHdmiOutStyle(1)
             compare(fakeManage.sent, ["hdmiStyle 0 1"])
