@@ -146,6 +146,12 @@ QByteArray deviceListBlock(const QVector<BluetoothDevice> &list)
     return b;
 }
 
+// Picture styles each camera offers: 0 standard, 1 vivid, 2 soft, 3 black and white.
+QByteArray uvcStyles(uchar camera)
+{
+    return camera == 0 ? QByteArray("\x00\x01\x02\x03", 4) : camera == 1 ? QByteArray("\x00\x02", 2) : QByteArray();
+}
+
 } // namespace
 
 // One row per command the device knows. Exact DAT1 rows win over "any" rows.
@@ -181,8 +187,8 @@ const Device::Row Device::kRows[] = {
     {0xC6, 0x07, "ndi decoding format read", &Device::onNdiDecodingFormatRead},
     {0xC6, 0x08, "ndi decoding switch", &Device::onNdiDecodingSwitch},
     {0xC6, -1, "ndi menu/encoding switch", &Device::onLogOnly},
-    {0xC7, -1, "scope", &Device::onLogOnly},
-    {0xC8, 0x00, "uvc style", &Device::onLogOnly},
+    {0xC7, 0x01, "scope", &Device::onScope},
+    {0xC8, 0x00, "uvc style", &Device::onCameraStyle},
     {0xC8, 0x03, "ptz support", &Device::onPtzSupport},
     {0xC8, 0x04, "ptz control", &Device::onPtzControl},
     {0xC8, 0x05, "ptz read", &Device::onPtzControl},
@@ -369,8 +375,19 @@ QVector<Report> Device::onReadInitInput(const model_Protocoldata &c)
 
 QVector<Report> Device::onPip(const model_Protocoldata &c)
 {
+    // Type 3 (two pictures) has no corner to choose: DAT3 names the second
+    // picture's input (255 none) instead.
+    if (c.DAT2 > 3 || (c.DAT2 == 3 && c.DAT3 >= kInputCount && c.DAT3 != 255)) {
+        reject(c, QStringLiteral("pip type %1 position %2").arg(c.DAT2).arg(c.DAT3));
+        return {};
+    }
     m_state.pipType = c.DAT2;
-    m_state.pipPosition = uchar(c.DAT3 & 3);
+    if (c.DAT2 == 3)
+        m_state.pipInput2 = c.DAT3;
+    else if (c.DAT2 == 1)
+        m_state.pipPosition = uchar(c.DAT3 & 3);
+    static const char *const layouts[] = {"off", "corner", "side by side", "two pictures"};
+    qCInfo(lcSim).noquote() << QStringLiteral("pip %1 position %2").arg(QLatin1String(layouts[c.DAT2])).arg(c.DAT3);
     return one(report(0x68, 0xAA, c.DAT2, c.DAT3));
 }
 
@@ -481,7 +498,15 @@ QVector<Report> Device::onClearRecordFileName(const model_Protocoldata &)
 
 QVector<Report> Device::onAudioChannel(const model_Protocoldata &c)
 {
+    // Low four bits: the source (0..7, 15 none); bit 4: the PIP mix.
+    const uchar source = c.DAT1 & 0x0F;
+    if ((c.DAT1 & 0xE0) != 0 || (source > 7 && source != 15)) {
+        reject(c, QStringLiteral("audio channel %1").arg(c.DAT1));
+        return {};
+    }
     m_state.audioChannel = c.DAT1;
+    (c.DAT1 & 0x10 ? m_state.pipAudio : m_state.programmeAudio) = source;
+    qCInfo(lcSim).noquote() << QStringLiteral("%1 audio source %2").arg(c.DAT1 & 0x10 ? "pip" : "programme").arg(source);
     return one(report(0xC3, c.DAT1));
 }
 
@@ -579,13 +604,88 @@ QVector<Report> Device::onPtzControl(const model_Protocoldata &c)
         if (set)
             m_state.autoFocus[cam] = c.DAT4;
         return one(report(0xC8, c.DAT1, c.DAT2, 1, m_state.autoFocus[cam]));
-    case 2:
-        if (set)
+    case 2: // go to a preset
+        if (set) {
+            if (c.DAT4 >= DeviceState::kPresets) {
+                reject(c, QStringLiteral("no preset %1").arg(c.DAT4));
+                return {};
+            }
             m_state.view[cam] = c.DAT4;
+            m_state.camera[cam] = m_state.presets[cam][c.DAT4];
+            qCInfo(lcSim).noquote() << QStringLiteral("camera %1 to preset %2").arg(cam).arg(c.DAT4);
+        }
         return one(report(0xC8, c.DAT1, c.DAT2, 2, m_state.view[cam]));
-    default: // pan, tilt and zoom moves have no answer
+    case 3: // keep the position as a preset; the camera is then at it
+        if (!set || c.DAT4 >= DeviceState::kPresets) {
+            reject(c, QStringLiteral("preset %1").arg(c.DAT4));
+            return {};
+        }
+        m_state.presets[cam][c.DAT4] = m_state.camera[cam];
+        m_state.view[cam] = c.DAT4;
+        qCInfo(lcSim).noquote() << QStringLiteral("camera %1 stored as preset %2").arg(cam).arg(c.DAT4);
+        return one(report(0xC8, c.DAT1, c.DAT2, 2, m_state.view[cam]));
+    default:
+        if (set && c.DAT3 == 0)
+            return onCameraMove(c);
         return onLogOnly(c);
     }
+}
+
+QVector<Report> Device::onCameraMove(const model_Protocoldata &c)
+{
+    // Moves 1 up, 2 down, 3 left, 4 right, 5 zoom in, 6 zoom out run until
+    // 0 stops them: one step per 100 ms held, at least one.
+    static const char *const names[] = {"stop", "up", "down", "left", "right", "zoom in", "zoom out"};
+    const size_t cam = c.DAT2;
+    if (c.DAT4 > 6) {
+        reject(c, QStringLiteral("move %1").arg(c.DAT4));
+        return {};
+    }
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const uchar was = m_state.cameraMove[cam];
+    if (was != 0) {
+        const int steps = int(qBound<qint64>(1, (now - m_state.cameraMoveSinceMs[cam]) / 100, 100));
+        DeviceState::CameraPosition &p = m_state.camera[cam];
+        switch (was) {
+        case 1: p.tilt = qMin(p.tilt + steps, 30); break;
+        case 2: p.tilt = qMax(p.tilt - steps, -30); break;
+        case 3: p.pan = qMax(p.pan - steps, -90); break;
+        case 4: p.pan = qMin(p.pan + steps, 90); break;
+        case 5: p.zoom = qMin(p.zoom + steps, 20); break;
+        case 6: p.zoom = qMax(p.zoom - steps, 0); break;
+        }
+    }
+    m_state.cameraMove[cam] = c.DAT4;
+    m_state.cameraMoveSinceMs[cam] = now;
+    const DeviceState::CameraPosition &p = m_state.camera[cam];
+    qCInfo(lcSim).noquote() << QStringLiteral("camera %1 move %2, pan %3 tilt %4 zoom %5")
+                                   .arg(cam).arg(QLatin1String(names[c.DAT4])).arg(p.pan).arg(p.tilt).arg(p.zoom);
+    return {};
+}
+
+QVector<Report> Device::onCameraStyle(const model_Protocoldata &c)
+{
+    const QByteArray offered = uvcStyles(c.DAT2);
+    if (!offered.contains(char(c.DAT3))) {
+        reject(c, QStringLiteral("camera %1 has no style %2").arg(c.DAT2).arg(c.DAT3));
+        return {};
+    }
+    if (c.DAT4 != 0)
+        m_state.cameraStyle[c.DAT2] = c.DAT3;
+    qCInfo(lcSim).noquote() << QStringLiteral("camera %1 style %2").arg(c.DAT2).arg(m_state.cameraStyle[c.DAT2]);
+    return {};
+}
+
+QVector<Report> Device::onScope(const model_Protocoldata &c)
+{
+    if (c.DAT2 >= DeviceState::kScopes || c.DAT3 > 1 || c.DAT4 > 3) {
+        reject(c, QStringLiteral("scope %1 open %2 corner %3").arg(c.DAT2).arg(c.DAT3).arg(c.DAT4));
+        return {};
+    }
+    m_state.scopeOpen[c.DAT2] = c.DAT3 != 0;
+    m_state.scopeCorner[c.DAT2] = c.DAT4;
+    qCInfo(lcSim).noquote() << QStringLiteral("scope %1 %2 corner %3").arg(c.DAT2).arg(c.DAT3 ? "open" : "closed").arg(c.DAT4);
+    return {};
 }
 
 QVector<Report> Device::onAudioOrHdmiStyle(const model_Protocoldata &c)
@@ -626,7 +726,30 @@ QVector<Report> Device::onHdmi2Status(const model_Protocoldata &)
 
 QVector<Report> Device::onSetInputFormat(const model_Protocoldata &c)
 {
-    qCInfo(lcSim).noquote() << QStringLiteral("input %1 format block %2").arg(c.DAT2).arg(QString::fromLatin1(c.arryDatablock.toHex(' ')));
+    // Type, width, height (16-bit, low byte first), fps, interlace flag, check byte.
+    const QByteArray &b = c.arryDatablock;
+    if (c.DAT2 >= kInputCount || !checkSummed(b, 8)) {
+        reject(c, QStringLiteral("input %1 format block %2").arg(c.DAT2).arg(QString::fromLatin1(b.toHex(' '))));
+        return {};
+    }
+    DeviceState::InputFormat f;
+    f.type = uchar(b.at(0));
+    f.width = quint16(uchar(b.at(1)) | (uchar(b.at(2)) << 8));
+    f.height = quint16(uchar(b.at(3)) | (uchar(b.at(4)) << 8));
+    f.fps = uchar(b.at(5));
+    // Interlaced 1080-line formats are kept as the device lists them: 540 lines.
+    if (b.at(6) && f.height == 1080)
+        f.height = 540;
+    bool offered = false;
+    for (const Format &o : formats(c.DAT2))
+        offered = offered || (o.type == f.type && o.width == f.width && o.height == f.height && o.fps == f.fps);
+    if (!offered) {
+        reject(c, QStringLiteral("input %1 does not offer %2x%3@%4 type %5").arg(c.DAT2).arg(f.width).arg(f.height).arg(f.fps).arg(f.type));
+        return {};
+    }
+    m_state.inputFormat[c.DAT2] = f;
+    qCInfo(lcSim).noquote() << QStringLiteral("input %1 format %2x%3%4@%5 type %6")
+                                   .arg(c.DAT2).arg(f.width).arg(b.at(6) ? 1080 : f.height).arg(b.at(6) ? "i" : "").arg(f.fps).arg(f.type);
     return one(report(0xF0, 0xB3, c.DAT2));
 }
 
@@ -751,8 +874,15 @@ QVector<Report> Device::onNdiSet(const model_Protocoldata &c)
 
 QVector<Report> Device::onNdiDecodingSource(const model_Protocoldata &c)
 {
+    if (c.arryDatablock.isEmpty() || c.arryDatablock.size() > kMaxNameBytes) {
+        reject(c, QStringLiteral("source name of %1 bytes").arg(c.arryDatablock.size()));
+        return {};
+    }
+    // Choosing a source starts receiving it.
     m_state.ndiDecodingSource = c.arryDatablock;
-    return one(report(0xF0, 0xBB));
+    m_state.ndiDecoding = 1;
+    qCInfo(lcSim).noquote() << "ndi receiving" << QString::fromLatin1(c.arryDatablock);
+    return {Report{report(0xF0, 0xBB), 0}, Report{report(0xC6, 0x08, m_state.ndiDecoding), 0}};
 }
 
 QVector<Report> Device::onRecordName(const model_Protocoldata &c)
@@ -832,8 +962,7 @@ QVector<Report> Device::onGetUvcStyles(const model_Protocoldata &c)
         reject(c, QStringLiteral("no camera %1").arg(c.DAT2));
         return {};
     }
-    const QByteArray styles = c.DAT2 == 0 ? QByteArray("\x00\x01\x02\x03", 4) : QByteArray("\x00\x02", 2);
-    return one(blockReport(0xB9, c.DAT2, styles + '\0'));
+    return one(blockReport(0xB9, c.DAT2, uvcStyles(c.DAT2) + '\0'));
 }
 
 QVector<Report> Device::onGetCurrentFormat(const model_Protocoldata &c)
@@ -842,8 +971,15 @@ QVector<Report> Device::onGetCurrentFormat(const model_Protocoldata &c)
         reject(c, QStringLiteral("no input %1").arg(c.DAT2));
         return {};
     }
-    // An input without a signal has no current format.
-    const QByteArray b = m_state.plugged[c.DAT2] ? currentFormat(c.DAT2) : QByteArray();
+    // An input without a signal has no current format; one set is kept.
+    QByteArray b;
+    const DeviceState::InputFormat &set = m_state.inputFormat[c.DAT2];
+    if (m_state.plugged[c.DAT2] && set.width != 0) {
+        appendFormat(b, Format{set.type, set.width, set.height, set.fps});
+        b.append('\0');
+    } else if (m_state.plugged[c.DAT2]) {
+        b = currentFormat(c.DAT2);
+    }
     return one(blockReport(0xBA, c.DAT2, b));
 }
 

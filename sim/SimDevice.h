@@ -102,6 +102,9 @@ private:
     QVector<Report> onLogOnly(const model_Protocoldata &c);
     QVector<Report> onPtzSupport(const model_Protocoldata &c);
     QVector<Report> onPtzControl(const model_Protocoldata &c);
+    QVector<Report> onCameraMove(const model_Protocoldata &c);
+    QVector<Report> onCameraStyle(const model_Protocoldata &c);
+    QVector<Report> onScope(const model_Protocoldata &c);
     QVector<Report> onAudioOrHdmiStyle(const model_Protocoldata &c);
     QVector<Report> onOutputStatus(const model_Protocoldata &c);
     QVector<Report> onHdmi2Status(const model_Protocoldata &c);

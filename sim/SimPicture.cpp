@@ -11,8 +11,23 @@ Scene Scene::from(const DeviceState &s)
     scene.programme = s.programme;
     scene.pipInput = s.sub;
     scene.pipOn = s.pipType != 0;
+    scene.pipType = s.pipType;
     scene.pipPosition = s.pipPosition & 3;
+    scene.pipInput2 = s.pipInput2 < kInputCount ? s.pipInput2 : -1;
+    scene.programmeAudio = s.programmeAudio < 8 ? s.programmeAudio : -1;
     scene.plugged = s.plugged;
+    scene.scopeOpen = s.scopeOpen;
+    scene.scopeCorner = s.scopeCorner;
+    scene.ndiSource = s.ndiDecoding ? s.ndiDecodingSource.toUpper() : QByteArray();
+    static const char *const styles[] = {"STANDARD", "VIVID", "SOFT", "MONO"};
+    for (int i = 0; i < kUvcCount; ++i) {
+        const DeviceState::CameraPosition &p = s.camera[size_t(i)];
+        const uchar style = s.cameraStyle[size_t(i)];
+        scene.cameraLine[size_t(i)] = QStringLiteral("PAN %1 TILT %2 ZOOM %3 %4")
+                                          .arg(p.pan).arg(p.tilt).arg(p.zoom)
+                                          .arg(QLatin1String(style < 4 ? styles[style] : "STYLE"))
+                                          .toLatin1();
+    }
     return scene;
 }
 
@@ -138,6 +153,15 @@ Rect pipRect(int width, int height, int position)
     return {x, y, w, h};
 }
 
+QVector<Rect> pipRects(int width, int height, int type, int position)
+{
+    if (type == 2)
+        return {{width / 2, 0, width - width / 2, height}};
+    if (type == 3)
+        return {pipRect(width, height, 1), pipRect(width, height, 3)};
+    return {pipRect(width, height, position)};
+}
+
 void drawText(uchar *rgb, int width, int height, int x, int y, const QByteArray &text, int scale, Rgb colour)
 {
     scale = qMax(1, scale);
@@ -236,7 +260,7 @@ void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapse
 {
     const auto isPlugged = [&](int i) { return i >= 0 && i < kInputCount && scene.plugged[size_t(i)]; };
     // A PIP in the top-left corner would hide the name: move it to the right.
-    const bool labelRight = scene.pipOn && scene.pipPosition == 0;
+    const bool labelRight = scene.pipOn && scene.pipType == 1 && scene.pipPosition == 0;
     drawSource(rgb, width, height, {0, 0, width, height}, scene.programme, isPlugged(scene.programme), elapsedMs, labelRight);
 
     const int scale = qMax(1, height / 120);
@@ -246,9 +270,51 @@ void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapse
     drawText(rgb, width, height, tx + scale, ty, tc, scale, {255, 255, 0});
 
     if (scene.pipOn) {
-        const Rect r = pipRect(width, height, scene.pipPosition);
-        fill(rgb, width, height, {r.x - 2, r.y - 2, r.w + 4, r.h + 4}, {255, 255, 255});
-        drawSource(rgb, width, height, r, scene.pipInput, isPlugged(scene.pipInput), elapsedMs);
+        const QVector<Rect> rects = pipRects(width, height, scene.pipType, scene.pipPosition);
+        for (int i = 0; i < rects.size(); ++i) {
+            const Rect &r = rects.at(i);
+            const int input = i == 0 ? scene.pipInput : scene.pipInput2;
+            fill(rgb, width, height, {r.x - 2, r.y - 2, r.w + 4, r.h + 4}, {255, 255, 255});
+            if (input >= 0)
+                drawSource(rgb, width, height, r, input, isPlugged(input), elapsedMs);
+            else
+                fill(rgb, width, height, r, {0, 0, 0});
+        }
+    }
+
+    // The programme's sound source, bottom right.
+    static const char *const audioNames[8] = {"MIC", "HDMI 1", "HDMI 2", "LINE", "UVC 1", "UVC 2", "NDI", "USB"};
+    const QByteArray audio = QByteArray("AUDIO ")
+                             + (scene.programmeAudio >= 0 && scene.programmeAudio < 8 ? audioNames[scene.programmeAudio] : "NONE");
+    const int ax = width - int(audio.size()) * 6 * scale - 3 * scale;
+    fill(rgb, width, height, {ax - scale, ty - scale, int(audio.size()) * 6 * scale + 2 * scale, 9 * scale}, {0, 0, 0});
+    drawText(rgb, width, height, ax, ty, audio, scale, {255, 255, 0});
+
+    // What the programme source is doing: the NDI source received, a
+    // camera's position and picture style.
+    QByteArray line;
+    if (scene.programme == 4)
+        line = scene.ndiSource.isEmpty() ? QByteArray("NO SOURCE CHOSEN") : scene.ndiSource;
+    else if (scene.programme == 2 || scene.programme == 3)
+        line = scene.cameraLine[size_t(scene.programme - 2)];
+    if (!line.isEmpty() && isPlugged(scene.programme)) {
+        const int ly = 12 * scale;
+        fill(rgb, width, height, {tx, ly - scale, int(line.size()) * 6 * scale + 2 * scale, 9 * scale}, {0, 0, 0});
+        drawText(rgb, width, height, tx + scale, ly, line, scale, {255, 255, 255});
+    }
+
+    // Scopes: a dark panel with the scope's name and a trace, in its corner.
+    static const char *const scopeNames[] = {"HISTOGRAM", "WAVEFORM", "RGB PARADE", "VECTORSCOPE"};
+    for (int i = 0; i < DeviceState::kScopes; ++i) {
+        if (!scene.scopeOpen[size_t(i)])
+            continue;
+        const Rect r = pipRect(width, height, scene.scopeCorner[size_t(i)] & 3);
+        fill(rgb, width, height, r, {12, 12, 12});
+        for (int x = 0; x < r.w; x += qMax(1, r.w / 64)) {
+            const int v = int((x * 37 + i * 53 + elapsedMs / 40) % qMax(1, r.h - 12 * scale));
+            fill(rgb, width, height, {r.x + x, r.y + r.h - v, qMax(1, r.w / 96), v}, {90, 200, 90});
+        }
+        drawText(rgb, width, height, r.x + scale, r.y + scale, QByteArray(scopeNames[i]), scale, {255, 255, 255});
     }
 }
 

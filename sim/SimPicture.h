@@ -5,6 +5,7 @@
 #include "SimState.h"
 
 #include <QByteArray>
+#include <QVector>
 
 #include <array>
 
@@ -15,8 +16,16 @@ struct Scene
     int programme = 0;
     int pipInput = 1;
     bool pipOn = false;
+    int pipType = 1;     // 1 corner, 2 side by side, 3 two pictures on the right
     int pipPosition = 0; // 0 top-left, 1 top-right, 2 bottom-left, 3 bottom-right
+    int pipInput2 = -1;  // second picture of type 3, -1 none
+    int programmeAudio = 1; // audio source heard on programme, 0..7, -1 none
     std::array<bool, kInputCount> plugged{{true, true, true, true, true}};
+    // Scopes open on the programme, each with its corner (as the PIP's).
+    std::array<bool, DeviceState::kScopes> scopeOpen{};
+    std::array<uchar, DeviceState::kScopes> scopeCorner{};
+    QByteArray ndiSource;                         // the NDI source received
+    std::array<QByteArray, kUvcCount> cameraLine; // a camera's position and style
 
     static Scene from(const DeviceState &s);
 };
@@ -34,6 +43,9 @@ struct Rect
     int x, y, w, h;
 };
 Rect pipRect(int width, int height, int position);
+// The rectangles of the second pictures for a PIP type (1 corner, 2 side by
+// side, 3 two pictures on the right); the programme keeps the rest.
+QVector<Rect> pipRects(int width, int height, int type, int position);
 
 // Renders a whole frame; elapsedMs drives the motion and the time code.
 void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapsedMs, int fps);

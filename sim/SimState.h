@@ -27,8 +27,11 @@ struct DeviceState
 {
     int programme = 0;     // input on the programme output
     int sub = 1;           // input chosen for the sub (PIP) picture
-    uchar pipType = 0;     // 0: PIP off, otherwise the layout on show
+    // PIP layout: 0 off, 1 one picture in a corner, 2 side by side, 3 two
+    // pictures on the right (the second showing pipInput2).
+    uchar pipType = 0;
     uchar pipPosition = 0; // corner 0..3: top-left, top-right, bottom-left, bottom-right
+    uchar pipInput2 = 255; // second PIP picture's input, 255 none
 
     bool recording = false;
     QString recordFile;    // full path of the current or last recording
@@ -55,6 +58,19 @@ struct DeviceState
     uchar outputStatus = 1;
     uchar hdmi2Status = 1;
     uchar audioChannel = 0;
+    // Audio sources heard on programme and on PIP: 0..7 mic, HDMI 1, HDMI 2,
+    // line, UVC 1, UVC 2, NDI, USB; 15 none.
+    uchar programmeAudio = 1, pipAudio = 15;
+
+    // Format each input runs, as set (type, width, height, fps; 540 lines
+    // for interlaced HDMI); width 0 until one is set.
+    struct InputFormat
+    {
+        uchar type = 0;
+        quint16 width = 0, height = 0;
+        uchar fps = 0;
+    };
+    std::array<InputFormat, kInputCount> inputFormat{};
 
     bool bluetoothOn = true;
     QVector<BluetoothDevice> bluetooth;      // ordinary devices (DAT2 0)
@@ -64,6 +80,22 @@ struct DeviceState
     uchar hdmiOutStyle = 0;
     std::array<uchar, kUvcCount> autoFocus{{1, 1}};
     std::array<uchar, kUvcCount> view{{0, 0}};
+    // Where each camera looks: steps of pan and tilt, zoom steps from wide.
+    struct CameraPosition
+    {
+        int pan = 0, tilt = 0, zoom = 0;
+    };
+    static constexpr int kPresets = 8;
+    std::array<CameraPosition, kUvcCount> camera{};
+    std::array<uchar, kUvcCount> cameraMove{{0, 0}}; // move under way, 0 none
+    std::array<qint64, kUvcCount> cameraMoveSinceMs{{0, 0}};
+    std::array<std::array<CameraPosition, kPresets>, kUvcCount> presets{};
+    std::array<uchar, kUvcCount> cameraStyle{{0, 0}};
+
+    // Scopes drawn into the programme: per type, open and its corner 0..3.
+    static constexpr int kScopes = 4;
+    std::array<bool, kScopes> scopeOpen{};
+    std::array<uchar, kScopes> scopeCorner{};
 
     DeviceState();
 };

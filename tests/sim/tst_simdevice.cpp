@@ -3,6 +3,7 @@
 // and report dispatcher make of them.
 #include "../reports/SignalRecorder.h"
 #include "SimDevice.h"
+#include "SimPicture.h"
 #include "SimScript.h"
 #include "SimServer.h"
 #include "SimTestSupport.h"
@@ -112,7 +113,9 @@ QVector<Row> rows()
           R"("netmask4":0,"ttlValue":4,"type":2}))"}},
         {"ndi base information", {cmd(0xF1, 0xB8, 4)}, {"<F0000f1b8040a00b7>", hex("800738043c3c401f80bb")},
          {R"(pushNdiBaseInfo("1920x1080@60",60,8000,48000))"}},
-        {"ndi decoding source", {cmd(0xF0, 0xBB, 0, 0, 0, "CAM")}, {"<F0000f0bb000000ab>"}, {}},
+        {"ndi decoding source starts receiving", {cmd(0xF0, 0xBB, 0, 0, 0, "CAM")}, {"<F0000f0bb000000ab>", "<F0000c608010000cf>"},
+         {"pushNDIDecodingStatus(1)"}},
+        {"ndi decoding source without a name", {cmd(0xF0, 0xBB)}, {}, {}},
         {"ndi sources", {cmd(0xF1, 0xBB)},
          {"<F0000f1bb00680014>", "\x03STUDIO-PC (OBS),192.168.1.20:5961;CAM-NORTH (PTZ1),192.168.1.31:5961;TABLET (Slides),192.168.1.45:5962;"},
          {R"#(pushNDISignalData(104,[{"addr":"192.168.1.20:5961","name":"STUDIO-PC (OBS)"},)#"
@@ -122,11 +125,23 @@ QVector<Row> rows()
         {"view set", {cmd(0xC8, 4, 0, 2, 3)}, {"<F0000c804000203d1>"}, {"pushPTZView(3)"}},
         {"view read", {cmd(0xC8, 4, 1, 2, 5), cmd(0xC8, 5, 1, 2)}, {"<F0000c805010205d5>"}, {"pushPTZView(5)"}},
         {"ptz move (no answer)", {cmd(0xC8, 4, 0, 0, 3)}, {}, {}},
+        {"preset stored, the camera is at it", {cmd(0xC8, 4, 0, 3, 2)}, {"<F0000c804000202d0>"}, {"pushPTZView(2)"}},
+        {"preset out of range", {cmd(0xC8, 4, 0, 2, 9)}, {}, {}},
+        {"scope (no answer)", {cmd(0xC7, 1, 3, 1, 2)}, {}, {}},
         {"sampling rate set", {cmd(0xC9, 0, 1, 2, 3)}, {"<F0000c901010203d0>"}, {"pushAudioSamplingRate(2,3)"}},
         {"hdmi out style set", {cmd(0xC9, 0, 2, 1)}, {"<F0000c901020100cd>"}, {"pushHDMIOutStyle(1)"}},
         {"output status", {cmd(0xD0, 7, 0)}, {"<F0000d007010000d8>"}, {"pushOutputInitiative(1)"}},
         {"hdmi2 status", {cmd(0xD0, 0x0C)}, {"<F0000d00c010000dd>"}, {"pushHDMI2Status(1)"}},
-        {"set input format", {cmd(0xF0, 0xB3, 1, 0, 0, hex("0080073804003c00"))}, {"<F0000f0b3010000a4>"}, {}},
+        // Type, width, height, fps, interlace flag, check byte.
+        {"set input format", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043c00ff"))}, {"<F0000f0b3010000a4>"}, {}},
+        {"set interlaced format, read back as 540 lines", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043201f6")), cmd(0xF1, 0xBA, 1)},
+         {"<F0000f1ba010700b3>", hex("0080071c023200")}, {R"(pushInputFormatInitiative(1,{"DataType":0,"Fps":50,"height":540,"width":1920}))"}},
+        {"format the input does not offer", {cmd(0xF0, 0xB3, 0, 0, 0, hex("0080073804190085"))}, {}, {}},
+        {"format block without its check byte", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043c0000"))}, {}, {}},
+        {"pip with two pictures", {cmd(0x68, 0xAA, 3, 2)}, {"<F000068aa03020017>"}, {}},
+        {"pip second picture of no input", {cmd(0x68, 0xAA, 3, 7)}, {}, {}},
+        {"pip audio from UVC 1", {cmd(0xC3, 0x14)}, {"<F0000c314000000d7>"}, {}},
+        {"audio source out of range", {cmd(0xC3, 0x09)}, {}, {}},
         {"serial number", {cmd(0xF1, 0x44)}, {"<F0000f144000f0044>", QByteArray("CS2026SIM00001\0", 15)}, {R"(pushSN("CS2026SIM00001"))"}},
         {"format list uvc 2", {cmd(0xF1, 0xB3, 3)}, {"<F0000f1b3031900c0>", hex("01800738041e" "010005d0021e" "018002e0011e" "028002e0011e" "00")},
          {R"(pushVideoFormatData(3,25,[{"DataType":1,"Fps":"30","Weights":3029,"height":1080,"width":1920},)"
@@ -232,6 +247,103 @@ private slots:
         QCOMPARE(last.second, emitted);
     }
 
+    // Camera moves, presets, styles, scopes and the NDI source received
+    // are kept, so the picture and later answers agree with them.
+    void stateFollowsCommands_data()
+    {
+        QTest::addColumn<QByteArrayList>("steps");
+        QTest::addColumn<QString>("state");
+        const QByteArray right = cmd(0xC8, 4, 0, 0, 4), stop = cmd(0xC8, 4, 0, 0, 0);
+        const QByteArray store1 = cmd(0xC8, 4, 0, 3, 1), recall0 = cmd(0xC8, 4, 0, 2, 0), recall1 = cmd(0xC8, 4, 0, 2, 1);
+        QTest::newRow("move held") << QByteArrayList{right} << "moving 4 moved 0 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("move released") << QByteArrayList{right, stop} << "moving 0 moved 1 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("unknown move") << QByteArrayList{cmd(0xC8, 4, 0, 0, 9)} << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("back to the home preset") << QByteArrayList{right, stop, store1, recall0}
+                                                 << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("stored preset recalled") << QByteArrayList{right, stop, store1, recall0, recall1}
+                                                << "moving 0 moved 1 view 1 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("styles") << QByteArrayList{cmd(0xC8, 0, 0, 1, 1), cmd(0xC8, 0, 1, 2, 1)}
+                                << "moving 0 moved 0 view 0 styles 1,2 scopes ---- ndi -";
+        QTest::newRow("style the camera lacks") << QByteArrayList{cmd(0xC8, 0, 1, 1, 1), cmd(0xC8, 0, 2, 0, 1)}
+                                                << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("scopes open and closed") << QByteArrayList{cmd(0xC7, 1, 0, 1, 1), cmd(0xC7, 1, 1, 1, 2), cmd(0xC7, 1, 3, 1, 3), cmd(0xC7, 1, 0, 0, 1)}
+                                                << "moving 0 moved 0 view 0 styles 0,0 scopes -2-3 ndi -";
+        QTest::newRow("scope out of range") << QByteArrayList{cmd(0xC7, 1, 4, 1, 0), cmd(0xC7, 1, 0, 1, 4), cmd(0xC7, 1, 0, 2, 0)}
+                                            << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("ndi source") << QByteArrayList{cmd(0xF0, 0xBB, 0, 0, 0, "CAM-NORTH (PTZ1)")}
+                                    << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi CAM-NORTH (PTZ1)";
+    }
+    void stateFollowsCommands()
+    {
+        QFETCH(QByteArrayList, steps);
+        QFETCH(QString, state);
+        Sim::Device device;
+        for (const QByteArray &s : steps)
+            step(device, s);
+        const Sim::DeviceState &d = device.state();
+        const auto &p = d.camera[0];
+        QString scopes;
+        for (int i = 0; i < Sim::DeviceState::kScopes; ++i)
+            scopes += d.scopeOpen[size_t(i)] ? QString::number(d.scopeCorner[size_t(i)]) : QStringLiteral("-");
+        const QString got = QStringLiteral("moving %1 moved %2 view %3 styles %4,%5 scopes %6 ndi %7")
+                                .arg(d.cameraMove[0]).arg(p.pan || p.tilt || p.zoom ? 1 : 0).arg(d.view[0])
+                                .arg(d.cameraStyle[0]).arg(d.cameraStyle[1]).arg(scopes)
+                                .arg(d.ndiDecoding ? QString::fromLatin1(d.ndiDecodingSource) : QStringLiteral("-"));
+        QCOMPARE(got, state);
+    }
+
+    // PIP layouts, sound sources and input formats are kept, and the
+    // picture shows the layout.
+    void switcherStateAndPicture_data()
+    {
+        QTest::addColumn<QByteArrayList>("steps");
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<QString>("picture"); // in the top-right third, in the bottom-right third
+        QTest::newRow("corner") << QByteArrayList{cmd(0x78, 0, 1), cmd(0x68, 0xAA, 1, 3)} << "pip 1/3 second - audio 1/15" << "programme picture";
+        QTest::newRow("side by side keeps the corner") << QByteArrayList{cmd(0x68, 0xAA, 1, 2), cmd(0x68, 0xAA, 2, 0)}
+                                                       << "pip 2/2 second - audio 1/15" << "picture picture";
+        QTest::newRow("two pictures, second none") << QByteArrayList{cmd(0x68, 0xAA, 3, 255)} << "pip 3/0 second - audio 1/15" << "picture black";
+        QTest::newRow("two pictures") << QByteArrayList{cmd(0x78, 0, 3), cmd(0x68, 0xAA, 3, 2)} << "pip 3/0 second 2 audio 1/15" << "picture picture";
+        QTest::newRow("off remembers the layout") << QByteArrayList{cmd(0x68, 0xAA, 3, 2), cmd(0x68, 0xAA, 0, 2)}
+                                                  << "pip 0/0 second 2 audio 1/15" << "programme programme";
+        QTest::newRow("sound for programme and pip") << QByteArrayList{cmd(0xC3, 0x03), cmd(0xC3, 0x16), cmd(0xC3, 0x1F), cmd(0xC3, 0x40)}
+                                                     << "pip 0/0 second - audio 3/15" << "programme programme";
+    }
+    void switcherStateAndPicture()
+    {
+        QFETCH(QByteArrayList, steps);
+        QFETCH(QString, state);
+        QFETCH(QString, picture);
+        Sim::Device device;
+        for (const QByteArray &s : steps)
+            step(device, s);
+        const Sim::DeviceState &d = device.state();
+        QCOMPARE(QStringLiteral("pip %1/%2 second %3 audio %4/%5")
+                     .arg(d.pipType).arg(d.pipPosition)
+                     .arg(d.pipInput2 == 255 ? QStringLiteral("-") : QString::number(d.pipInput2))
+                     .arg(d.programmeAudio).arg(d.pipAudio),
+                 state);
+
+        // What shows at two points: the programme as drawn without PIP, a
+        // black empty picture, or another picture.
+        const int w = 320, h = 180;
+        const auto draw = [&](const Sim::Scene &scene) {
+            QByteArray f(w * h * 3, 0);
+            Sim::Picture::render(reinterpret_cast<uchar *>(f.data()), w, h, scene, 1000, 30);
+            return f;
+        };
+        const auto at = [&](const QByteArray &f, QPoint p) { return f.mid((p.y() * w + p.x()) * 3, 3); };
+        const Sim::Scene scene = Sim::Scene::from(d);
+        Sim::Scene programmeOnly = scene;
+        programmeOnly.pipOn = false;
+        const QByteArray frame = draw(scene), prog = draw(programmeOnly);
+        QStringList seen;
+        for (const QPoint p : {QPoint(w * 3 / 4 + 7, h / 3 + 3), QPoint(w * 5 / 6, h * 3 / 4)})
+            seen << (at(frame, p) == QByteArray(3, 0) ? QStringLiteral("black")
+                     : at(frame, p) == at(prog, p) ? QStringLiteral("programme") : QStringLiteral("picture"));
+        QCOMPARE(seen.join(' '), picture);
+    }
+
     // Blocks go out in pieces of 512 bytes after the header.
     void longBlocksSpanDatagrams()
     {
@@ -305,6 +417,8 @@ private slots:
                 if (h.CMD == 0xD0) // an address block answers once per channel it names
                     for (const QByteArray &o : out)
                         QCOMPARE(ProtocolFrame::parseReport(o).CMD, h.CMD);
+                else if (h.CMD == 0xF0 && h.DAT1 == 0xBB) // choosing a source also reports receiving it
+                    QCOMPARE(out.size(), 2);
                 else
                     QCOMPARE(out.mid(1).join().size(), h.CMD == 0xF1 ? h.DAT3 | h.DAT4 << 8 : 0);
             }
