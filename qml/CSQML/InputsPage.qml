@@ -42,13 +42,14 @@ Column {
             Text {
                 objectName: "inputNow" + index
                 width: parent.width
+                textFormat: Text.PlainText   // a remembered format is text from the settings file
                 wrapMode: Text.WordWrap
                 color: section.list && section.list.length === 0 ? Style.attention : Style.textDim
                 font.pixelSize: Style.fontSmall
                 text: section.list === null ? qsTr("Asking the device…")
                       : section.list.length === 0 ? qsTr("No signal")
-                      : section.waiting ? qsTr("Setting %1…").arg(VideoFormat.label(VideoFormat.parse(page.formatOf(page.store.pending[index]), false)))
-                      : !section.reportsCurrent ? (page.store.chosen[index] !== "" ? qsTr("Chosen here: %1").arg(VideoFormat.label(VideoFormat.parse(page.formatOf(page.store.chosen[index]), false))) : qsTr("Chosen by the device"))
+                      : section.waiting ? qsTr("Setting %1…").arg(page.shown(page.store.pending[index]))
+                      : !section.reportsCurrent ? (page.store.chosen[index] !== "" ? qsTr("Chosen here: %1").arg(page.shown(page.store.chosen[index])) : qsTr("Chosen by the device"))
                       : !page.store.currentKnown[index] ? qsTr("Asking the device…")
                       : section.current ? qsTr("Now: %1").arg(VideoFormat.label(section.current))
                       : qsTr("No current format")
@@ -74,6 +75,8 @@ Column {
         }
     }
 
+    // A remembered resolution text as its label, or as it is when it is no format.
+    function shown(text) { return VideoFormat.label(VideoFormat.parse(formatOf(text), false)) || text }
     // "1920x1080i@60" back into a format the label understands.
     function formatOf(text) {
         var m = /^(\d+)x(\d+)(i?)@(\d+)$/.exec(text)
