@@ -78,7 +78,8 @@ private slots:
         QCOMPARE(device.state().ndiGroup, QByteArray("public"));
         QVERIFY(changed.count() >= 1);
 
-        QCOMPARE(exchange(peer, port, cmd(0x68, 0xAA, 2, 1), 1), QByteArrayList{"<F000068aa02010015>"});
+        // Layout 1: one picture in the corner the position names.
+        QCOMPARE(exchange(peer, port, cmd(0x68, 0xAA, 1, 1), 1), QByteArrayList{"<F000068aa01010014>"});
         const Sim::Scene scene = Sim::Scene::from(device.state());
         QCOMPARE(scene.programme, 2);
         QVERIFY(scene.pipOn);
