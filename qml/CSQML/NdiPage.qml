@@ -173,7 +173,7 @@ Column {
 
     // --- connection ---------------------------------------------------------
     Heading { text: qsTr("Connection") }
-    property int connectType: 0
+    property int connectType: -1    // none chosen until the device says
     property string connectionProblem: ""
     function fillConnection() {
         var c = store ? store.connection : null
@@ -220,6 +220,7 @@ Column {
         problem: page.connectionProblem === "netmask"
     }
     readonly property var connectionTexts: ({
+        type: qsTr("Choose a connection type."),
         ttl: qsTr("TTL must be a whole number from 1 to 255."),
         address: qsTr("The address must be four numbers from 0 to 255 with dots between."),
         multicast: qsTr("Multicast needs a group address from 224.0.0.0 to 239.255.255.255."),

@@ -1105,6 +1105,10 @@
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Choose a connection type.</source>
+        <translation>请选择连接类型。</translation>
+    </message>
 </context>
 <context>
     <name>NetworkPage</name>

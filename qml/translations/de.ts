@@ -1107,6 +1107,10 @@
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Choose a connection type.</source>
+        <translation>Bitte einen Verbindungstyp wählen.</translation>
+    </message>
 </context>
 <context>
     <name>NetworkPage</name>

@@ -1107,6 +1107,10 @@
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Choose a connection type.</source>
+        <translation>Choose a connection type.</translation>
+    </message>
 </context>
 <context>
     <name>NetworkPage</name>
