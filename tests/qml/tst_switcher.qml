@@ -145,19 +145,6 @@ Item {
                 compare(store.chosen[2], "1280x720@30")
         }
 
-        function test_outputReportsShow() {
-            store.setHdmiOutStyle(1)
-            compare(fakeManage.sent, ["hdmiStyle 0 1"])
-            compare(store.hdmiOutStyle, -1, "shown once the device answers")
-            fakeManage.uiproVideo.pushHDMIOutStyle(1)
-            fakeManage.uiproVideo.pushHDMI2Status(0)
-            fakeManage.uiproVideo.pushOutputInitiative(1)
-            fakeManage.uiproVideo.pushAudioSamplingRate(2, 0)
-            fakeManage.uiproVideo.pushAudioSamplingRate(40, 1)
-            compare([store.hdmiOutStyle, store.hdmi2Status, store.outputStatus, store.samplingRates[2]], [1, 0, 1, 0])
-            compare(store.samplingRates.length, 8)
-        }
-
         function test_inputsPageShowsTheDevice() {
             fake.formatLists = [null, [], [{ type: 0, width: 1920, height: 1080, fps: 60, interlaced: false, label: "1080p60", resolution: "1920x1080@60" },
                                            { type: 0, width: 1280, height: 720, fps: 50, interlaced: false, label: "720p50", resolution: "1280x720@50" }], null, null]
