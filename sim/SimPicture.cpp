@@ -282,11 +282,12 @@ void render(uchar *rgb, int width, int height, const Scene &scene, qint64 elapse
         }
     }
 
-    // The programme's sound source, bottom right.
+    // The programme's sound source, beside the time code (the PIP pictures
+    // take the right-hand corners).
     static const char *const audioNames[8] = {"MIC", "HDMI 1", "HDMI 2", "LINE", "UVC 1", "UVC 2", "NDI", "USB"};
     const QByteArray audio = QByteArray("AUDIO ")
                              + (scene.programmeAudio >= 0 && scene.programmeAudio < 8 ? audioNames[scene.programmeAudio] : "NONE");
-    const int ax = width - int(audio.size()) * 6 * scale - 3 * scale;
+    const int ax = tx + (int(tc.size()) + 2) * 6 * scale;
     fill(rgb, width, height, {ax - scale, ty - scale, int(audio.size()) * 6 * scale + 2 * scale, 9 * scale}, {0, 0, 0});
     drawText(rgb, width, height, ax, ty, audio, scale, {255, 255, 0});
 
