@@ -93,8 +93,12 @@ Rectangle {
                 // The menu and pages that lead on to other pages open them here.
                 if (item.openPage)
                     item.openPage.connect(host.show)
-                if (host.current !== "menu" && host.entry)
-                    item.store = host.stores[host.entry.store]
+                // Bound, not copied: stores made with the device start (after
+                // the first frame) reach a page that opened before them.
+                if (host.current !== "menu" && host.entry) {
+                    var storeName = host.entry.store
+                    item.store = Qt.binding(function () { return host.stores[storeName] })
+                }
             }
         }
 

@@ -12,6 +12,7 @@ Item {
 
     FakeStore { id: live }
     FakeSystemStore { id: system }
+    FakeBoardStore { id: lateBoard }
     MainView {
         id: view
         width: portrait ? 1080 : 1920
@@ -128,6 +129,16 @@ TestCase {
         tryVerify(inView, 1000, "the focused field is scrolled into view")
         view.keyboardTop = view.height
         verify(rectOf(scroller).y + rectOf(scroller).height > keyboardTop)
+    }
+
+    // Stores made with the device start reach a page opened before them.
+    function test_pageGetsAStoreMadeAfterIt() {
+        var before = view.pageStores
+        host.show("network")
+        compare(host.page.store, undefined)
+        view.pageStores = Object.assign({ board: lateBoard }, before)
+        compare(host.page.store, lateBoard)
+        view.pageStores = before
     }
 
     function test_nextPageStaysAtItsTopWhenTheKeyboardCloses() {
