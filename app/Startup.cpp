@@ -2,6 +2,7 @@
 
 #include "LogCategories.h"
 #include "UiProc.h"
+#include "PreviewItem.h"
 #include "UiprocImageShow.h"
 #include "UiproBluetooth_Desktop.h"
 #include "UiprocMain_Desktop.h"
@@ -56,6 +57,7 @@ void registerQmlTypes()
     qmlRegisterType<UiproVersion_Desktop>("xpose.UiproVersionDesktop", 1, 0, "UiproVersion_Desktop");
     qmlRegisterType<UiproRtmp_Desktop>("xpose.UiproRtmpDesktop", 1, 0, "UiproRtmp_Desktop");
     qmlRegisterType<UiproBluetooth_Desktop>("xpose.UiproBluetoothDesktop", 1, 0, "UiproBluetooth_Desktop");
+    qmlRegisterType<PreviewItem>("cs.Preview", 1, 0, "PreviewItem");
 }
 
 bool isWatchStart(const QStringList &arguments)

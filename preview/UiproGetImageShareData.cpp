@@ -70,8 +70,18 @@ constexpr int kPoolMax = 6;
 constexpr int kReaderCpu = 4;
 // Frames are taken at most this often (250 per second, above any display
 // rate): a runaway producer cannot make the reader burn a core on frames
-// no screen will show. A producer at display rates never waits for it.
+// no screen will show. The wait is spent before the buffer goes back to the
+// producer, so the frame read next is as fresh as the producer makes it. A
+// producer at display rates never waits for it.
 constexpr qint64 kMinFrameIntervalNs = 4000000;
+// While a drawing display has not yet taken the frame just handed on, the
+// buffer is handed back to the producer only once it has: the producer then
+// writes its next frame while the display draws this one, so frames nobody
+// will see are not converted, and the frame converted next is fresh rather
+// than one that waited in the segment. A display that stops drawing without
+// saying so (a window that is not exposed) holds the producer back at most
+// this long per frame.
+constexpr int kDemandHoldMs = 100;
 
 // Up to five lines at once, then one a second per kind of event: a rare
 // event is always told, a flood of them does not flood the log.
@@ -141,7 +151,7 @@ struct UiproGetImageShareData::ReaderState
     void refuse(const char *why, quint32 width, quint32 height);
     int reopenSet();
     bool segmentUsable();
-    void copyFrame();
+    void copyFrame(qint64 takenNs);
     void run();
 };
 
@@ -150,6 +160,10 @@ struct UiproGetImageShareData::ReaderState
 QImage UiproGetImageShareData::ReaderState::acquire(int width, int height, uint8_t **pixels)
 {
     for (QImage &img : pool) {
+        // isDetached() reads the share count relaxed; taking and dropping a
+        // reference are ordered operations on it, so the last holder's reads
+        // of the pixels (a render thread uploading them) come before our writes.
+        { QImage touch(img); }
         if (img.width() == width && img.height() == height && img.isDetached()) {
             *pixels = img.bits();
             return img;
@@ -164,6 +178,7 @@ QImage UiproGetImageShareData::ReaderState::acquire(int width, int height, uint8
         return fresh;
     }
     for (QImage &img : pool) {
+        { QImage touch(img); }
         if (img.isDetached()) { // size changed: replace an idle one
             img = fresh;
             return fresh;
@@ -293,7 +308,7 @@ bool UiproGetImageShareData::ReaderState::segmentUsable()
 }
 
 // One frame out of the segment, then the buffer is handed back to the producer.
-void UiproGetImageShareData::ReaderState::copyFrame()
+void UiproGetImageShareData::ReaderState::copyFrame(qint64 takenNs)
 {
     const qint64 cpuStart = nowNs(CLOCK_THREAD_CPUTIME_ID);
     QImage frame;
@@ -330,16 +345,27 @@ void UiproGetImageShareData::ReaderState::copyFrame()
                                               size_t(frame.bytesPerLine()), int(w), int(h));
         }
     }
-    release();
-    if (refusal) {
-        refuse(refusal, w, h);
+    const auto releaseWhenDue = [this, takenNs] {
+        const qint64 early = takenNs + kMinFrameIntervalNs - nowNs(CLOCK_MONOTONIC);
+        if (early > 0)
+            std::this_thread::sleep_for(std::chrono::nanoseconds(early));
+        release();
+    };
+    if (refusal || frame.isNull()) {
+        releaseWhenDue();
+        if (refusal)
+            refuse(refusal, w, h);
         return;
     }
-    if (frame.isNull())
-        return;
+    const std::shared_ptr<PreviewFrameSlot> slot = UiprocImageShow::currentSlot();
     UiprocImageShow::deliverToCurrent(frame);
+    const qint64 deliveredNs = nowNs(CLOCK_MONOTONIC);
+    const qint64 cpuNs = nowNs(CLOCK_THREAD_CPUTIME_ID) - cpuStart;
+    if (slot)
+        slot->waitForDemand(kDemandHoldMs);
+    releaseWhenDue();
     if (PreviewReaderHooks::FrameHook *hook = PreviewReaderHooks::g_hook.load())
-        (*hook)(frame, nowNs(CLOCK_MONOTONIC), nowNs(CLOCK_THREAD_CPUTIME_ID) - cpuStart);
+        (*hook)(frame, deliveredNs, cpuNs);
 }
 
 void UiproGetImageShareData::ReaderState::run()
@@ -356,11 +382,7 @@ void UiproGetImageShareData::ReaderState::run()
         (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
     }
 
-    qint64 lastFrameNs = 0;
     while (!stop.load()) {
-        const qint64 early = lastFrameNs + kMinFrameIntervalNs - nowNs(CLOCK_MONOTONIC);
-        if (early > 0)
-            std::this_thread::sleep_for(std::chrono::nanoseconds(early));
         const qint64 nowMs = nowNs(CLOCK_MONOTONIC) / 1000000;
         if (segmentSuspect || !segment->addr.load() || nowMs - lastSegmentCheckMs >= kSegmentCheckMs) {
             segmentSuspect = false;
@@ -373,8 +395,7 @@ void UiproGetImageShareData::ReaderState::run()
         }
         if (!waitReady())
             continue;
-        lastFrameNs = nowNs(CLOCK_MONOTONIC);
-        copyFrame();
+        copyFrame(nowNs(CLOCK_MONOTONIC));
     }
     running.store(false);
 }

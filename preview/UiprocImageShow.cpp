@@ -1,6 +1,9 @@
 #include "UiprocImageShow.h"
 
+#include <QDeadlineTimer>
 #include <QPixmap>
+
+#include <algorithm>
 
 #include <pthread.h>
 #include <sched.h>
@@ -12,6 +15,56 @@ std::atomic<UiprocImageShow *> g_lastShow{nullptr};
 // Held while the reader hands a frame over and while an instance goes away.
 QMutex g_lastShowMutex;
 } // namespace
+
+void PreviewFrameSlot::addDisplay(PreviewFrameListener *listener)
+{
+    QMutexLocker lock(&mutex);
+    displays.push_back({listener, false});
+}
+
+void PreviewFrameSlot::removeDisplay(PreviewFrameListener *listener)
+{
+    QMutexLocker lock(&mutex);
+    displays.erase(std::remove_if(displays.begin(), displays.end(),
+                                  [listener](const Display &d) { return d.listener == listener; }),
+                   displays.end());
+    demand.wakeAll();
+}
+
+void PreviewFrameSlot::setDrawing(PreviewFrameListener *listener, bool drawing)
+{
+    QMutexLocker lock(&mutex);
+    for (Display &d : displays) {
+        if (d.listener == listener)
+            d.drawing = drawing;
+    }
+    demand.wakeAll();
+}
+
+QImage PreviewFrameSlot::takeNewer(quint64 shownSerial, quint64 *serial)
+{
+    QMutexLocker lock(&mutex);
+    const quint64 newest = delivered.load(std::memory_order_relaxed);
+    *serial = newest;
+    if (takenSerial != newest) {
+        takenSerial = newest;
+        demand.wakeAll();
+    }
+    return newest != shownSerial ? frame : QImage();
+}
+
+bool PreviewFrameSlot::waitForDemand(int ms)
+{
+    QMutexLocker lock(&mutex);
+    QDeadlineTimer deadline(ms);
+    for (;;) {
+        const bool anyDrawing = std::any_of(displays.begin(), displays.end(), [](const Display &d) { return d.drawing; });
+        if (!anyDrawing || takenSerial == delivered.load(std::memory_order_relaxed))
+            return true;
+        if (!demand.wait(&mutex, deadline))
+            return false;
+    }
+}
 
 UiprocImageProvider::UiprocImageProvider()
     : UiprocImageProvider(std::make_shared<PreviewFrameSlot>())
@@ -84,6 +137,13 @@ bool UiprocImageShow::deliverToCurrent(const QImage &frame)
     return true;
 }
 
+std::shared_ptr<PreviewFrameSlot> UiprocImageShow::currentSlot()
+{
+    QMutexLocker lock(&g_lastShowMutex);
+    UiprocImageShow *show = g_lastShow.load();
+    return show ? show->m_slot : nullptr;
+}
+
 void UiprocImageShow::setMainImage(QImage image, int width, int height)
 {
     // Deep copy: the caller may free the buffer the image wraps right after.
@@ -105,6 +165,8 @@ void UiprocImageShow::storeAndNotify(QImage &&frame)
         QMutexLocker lock(&slot.mutex);
         slot.frame.swap(frame);
         slot.delivered.fetch_add(1, std::memory_order_relaxed);
+        for (const PreviewFrameSlot::Display &d : slot.displays)
+            d.listener->previewFrameStored();
     }
     // The old frame (now in `frame`) is released outside the lock.
     frame = QImage();

@@ -4,9 +4,22 @@
 #include <QMutex>
 #include <QObject>
 #include <QQuickImageProvider>
+#include <QWaitCondition>
 
 #include <atomic>
 #include <memory>
+#include <vector>
+
+// A display that shows frames straight from the slot (PreviewItem). Told on
+// the storing thread, under the slot's lock: it must only flag and post.
+class PreviewFrameListener
+{
+public:
+    virtual void previewFrameStored() = 0;
+
+protected:
+    ~PreviewFrameListener() = default;
+};
 
 // The frame slot shared by the show object and its provider. The provider is
 // owned by the QML engine and may outlive or predecease the show object, so
@@ -18,6 +31,23 @@ struct PreviewFrameSlot
     std::atomic<quint64> served{0};      // frames handed to the engine
     std::atomic<quint64> delivered{0};   // frames stored in the slot
     std::atomic<quint64> lastServedSerial{0}; // `delivered` count of the frame served last
+
+    // Displays reading the slot directly, and whether each one is drawing
+    // (visible, in a window, not paused). Guarded by mutex.
+    struct Display { PreviewFrameListener *listener; bool drawing; };
+    std::vector<Display> displays;
+    quint64 takenSerial = 0;  // `delivered` count of the frame a display took last
+    QWaitCondition demand;    // a display took a frame or stopped drawing
+
+    void addDisplay(PreviewFrameListener *listener);
+    void removeDisplay(PreviewFrameListener *listener);
+    void setDrawing(PreviewFrameListener *listener, bool drawing);
+    // The newest frame if it is newer than `shownSerial` (else null); its
+    // serial goes to *serial. Marks the newest frame as taken either way.
+    QImage takeNewer(quint64 shownSerial, quint64 *serial);
+    // Until a drawing display wants a frame (it took the newest one), none
+    // draws, or `ms` ran out (false).
+    bool waitForDemand(int ms);
 };
 
 class UiprocImageProvider : public QQuickImageProvider
@@ -51,6 +81,10 @@ public:
     // Hands a frame to the instance constructed last, if any; safe against
     // that instance being destroyed meanwhile. False when there is none.
     static bool deliverToCurrent(const QImage &frame);
+    // The frame slot of that instance (null when there is none); it stays
+    // valid after the instance is gone.
+    static std::shared_ptr<PreviewFrameSlot> currentSlot();
+    std::shared_ptr<PreviewFrameSlot> frameSlot() const { return m_slot; }
 
     // Takes a frame the caller no longer writes to (no deep copy). Used by the
     // frame reader, whose images are already in the display format.

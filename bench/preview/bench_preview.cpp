@@ -1,10 +1,14 @@
-// Preview path throughput: a producer writes 1920x1080 RGB frames as fast as
-// the hand-shake allows into the real reader and provider.
-//   bench_preview [seconds]             reader and provider only
-//   bench_preview --window [seconds]    plus a QML window showing PreviewImage.qml
-//                                       (run under xvfb-run -a)
+// Preview path cost against one cold-cache memcpy of a frame, measured in the
+// same run: a producer writes 1920x1080 RGB frames as fast as the hand-shake
+// allows into the real reader, frame slot and preview control.
+//   bench_preview [seconds]             reference, the reader alone, then the whole
+//                                       path in a window on the software renderer and
+//                                       on OpenGL (one child process each; needs a
+//                                       display: run under xvfb-run -a)
+//   bench_preview --window software|opengl [seconds]   one of those runs alone
 //   --fps N                             pace the producer to N frames/s (default: unthrottled)
 #include "PreviewConvert.h"
+#include "PreviewItem.h"
 #include "PreviewReaderHooks.h"
 #include "PreviewTestProducer.h"
 #include "UiproGetImageShareData.h"
@@ -12,9 +16,11 @@
 
 #include <QGuiApplication>
 #include <QMutex>
+#include <QProcess>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickView>
+#include <QSGRendererInterface>
 #include <QTimer>
 
 #include <algorithm>
@@ -211,41 +217,88 @@ struct Run
         producerCpuNs.store(nowNs(CLOCK_THREAD_CPUTIME_ID) - cpu0);
     }
 
+    // Post time of each frame by the serial the frame slot gave it.
+    std::vector<qint64> postBySerial = std::vector<qint64>(1 << 16, 0);
+    UiprocImageShow *show = nullptr;
+
     void onFrame(const QImage &frame, qint64 deliveredNs, qint64 cpuNs)
     {
         const QRgb first = frame.pixel(0, 0);
         const quint32 seq = (quint32(qRed(first)) << 16) | (quint32(qGreen(first)) << 8) | quint32(qBlue(first));
+        const qint64 posted = postNs[seq & 0xffff];
+        // Only this thread delivers: the count is this frame's serial.
+        postBySerial[show->framesDelivered() & 0xffff] = posted;
         QMutexLocker lock(&mutex);
-        latencyMs.push_back((deliveredNs - postNs[seq & 0xffff]) / 1e6);
+        latencyMs.push_back((deliveredNs - posted) / 1e6);
         cpuMs.push_back(cpuNs / 1e6);
     }
 };
+
+// One line the parent process reads back from a window run.
+struct WindowResult
+{
+    double fps = 0, cpuMs = 0, cpuNoRasterMs = 0, p50 = 0, p99 = 0, coldMs = 0, readsPerShown = 0;
+    QString api;
+    bool ok = false;
+};
+
+WindowResult parseResult(const QByteArray &out)
+{
+    WindowResult r;
+    for (const QByteArray &line : out.split('\n')) {
+        if (!line.startsWith("RESULT "))
+            continue;
+        for (const QByteArray &kv : line.mid(7).split(' ')) {
+            const int eq = kv.indexOf('=');
+            const QByteArray k = kv.left(eq), v = kv.mid(eq + 1);
+            if (k == "api") r.api = QString::fromLatin1(v);
+            else if (k == "fps") r.fps = v.toDouble();
+            else if (k == "cpu") r.cpuMs = v.toDouble();
+            else if (k == "cpu_noraster") r.cpuNoRasterMs = v.toDouble();
+            else if (k == "p50") r.p50 = v.toDouble();
+            else if (k == "p99") r.p99 = v.toDouble();
+            else if (k == "cold") r.coldMs = v.toDouble();
+            else if (k == "reads") r.readsPerShown = v.toDouble();
+        }
+        r.ok = true;
+    }
+    return r;
+}
 } // namespace
 
 int main(int argc, char **argv)
 {
-    bool display = false;
+    QString windowApi;
     int seconds = 10;
     int fps = 0;
     for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], "--window") == 0)
-            display = true;
+        if (qstrcmp(argv[i], "--window") == 0 && i + 1 < argc)
+            windowApi = QString::fromLatin1(argv[++i]);
         else if (qstrcmp(argv[i], "--fps") == 0 && i + 1 < argc)
             fps = atoi(argv[++i]);
         else if (atoi(argv[i]) > 0)
             seconds = atoi(argv[i]);
     }
+    const bool display = !windowApi.isEmpty();
+    if (windowApi == QLatin1String("software"))
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    else if (display)
+        qunsetenv("QT_QUICK_BACKEND");
     qputenv("CS_PREVIEW_SHM_KEY", QByteArray::number(privateKey(1)));
     qputenv("CS_PREVIEW_SEM_KEY", QByteArray::number(privateKey(2)));
+    if (!display && qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // the reader alone needs no screen
     QGuiApplication app(argc, argv);
+    qmlRegisterType<PreviewItem>("cs.Preview", 1, 0, "PreviewItem");
 
     const double floorMs = memcpyFloorMs();
-    const double coldMs = memcpyColdMs();
+    double coldMs = memcpyColdMs();
     const double convMs = convertMs();
     const double qtConvMs = qtConvertMs();
     auto *show = new UiprocImageShow;
     Run run;
     run.fps = fps;
+    run.show = show;
     PreviewReaderHooks::FrameHook hook = [&run](const QImage &f, qint64 d, qint64 c) { run.onFrame(f, d, c); };
     PreviewReaderHooks::setFrameHook(&hook);
 
@@ -259,11 +312,15 @@ int main(int argc, char **argv)
     const double segCopyMs = memcpyFromFreshSegmentMs(producer.segment());
 
     std::unique_ptr<QQuickView> view;
+    PreviewItem *item = nullptr;
     std::atomic<quint64> distinctShown{0};
-    quint64 lastServed = 0;
+    quint64 lastShownSerial = 0; // touched by the thread that swaps only
+    QMutex swapMutex;
+    std::vector<std::pair<quint64, qint64>> swaps; // serial shown, swap time
     std::vector<double> guiLagMs;
     QTimer ticker;
     qint64 lastTick = 0;
+    QString api;
     if (display) {
         view.reset(new QQuickView);
         view->engine()->rootContext()->setContextProperty(QStringLiteral("CodeImage"), show);
@@ -274,13 +331,16 @@ int main(int argc, char **argv)
             std::fprintf(stderr, "cannot load PreviewImage.qml\n");
             return 1;
         }
+        item = view->rootObject()->findChild<PreviewItem *>(QStringLiteral("previewPicture"));
         view->resize(1280, 720);
         view->show();
         QObject::connect(view.get(), &QQuickWindow::frameSwapped, view.get(), [&] {
-            const quint64 served = show->framesServed();
-            if (served != lastServed) {
-                lastServed = served;
+            const quint64 serial = item->shownSerial();
+            if (serial != lastShownSerial) {
+                lastShownSerial = serial;
                 distinctShown.fetch_add(1);
+                QMutexLocker lock(&swapMutex);
+                swaps.emplace_back(serial, nowNs(CLOCK_MONOTONIC));
             }
         }, Qt::DirectConnection);
         // GUI responsiveness: lateness of a 10 ms timer.
@@ -293,10 +353,14 @@ int main(int argc, char **argv)
             lastTick = now;
         });
         ticker.start();
-        QTimer warm;
         QEventLoop wait;
         QTimer::singleShot(500, &wait, &QEventLoop::quit);
         wait.exec();
+        switch (view->rendererInterface()->graphicsApi()) {
+        case QSGRendererInterface::Software: api = QStringLiteral("software"); break;
+        case QSGRendererInterface::OpenGL: api = QStringLiteral("opengl"); break;
+        default: api = QStringLiteral("other"); break;
+        }
     }
 
     reader->getShareImageData();
@@ -306,6 +370,10 @@ int main(int argc, char **argv)
     std::thread producerThread([&] { run.produce(producer); });
     const quint64 shown0 = distinctShown.load();
     guiLagMs.clear();
+    {
+        QMutexLocker lock(&swapMutex);
+        swaps.clear();
+    }
 
     QEventLoop loop;
     QTimer::singleShot(seconds * 1000, &loop, &QEventLoop::quit);
@@ -318,6 +386,10 @@ int main(int argc, char **argv)
     const auto threads1 = threadCpuMs();
     reader->stopReader();
     PreviewReaderHooks::setFrameHook(nullptr);
+    // The reference again, now that the run is over: others on the machine
+    // only ever make a copy slower, so the lower of the two is the one used.
+    const double coldBeforeMs = coldMs;
+    coldMs = std::min(coldMs, memcpyColdMs());
 
     QMutexLocker lock(&run.mutex);
     const size_t frames = run.latencyMs.size();
@@ -327,26 +399,36 @@ int main(int argc, char **argv)
     const double readerCpu = frames ? cpuSum / frames : 0;
     std::printf("frame 1920x1080 RGB888, %d s, producer %s, memcpy floor %.3f ms/frame\n", seconds,
                 fps > 0 ? qPrintable(QStringLiteral("paced to %1 frames/s").arg(fps)) : "unthrottled", floorMs);
-    std::printf("memcpy with cold caches %.3f ms; RGB888->RGB32 pass %.3f ms (warm); Qt's RGB888->ARGB32PM conversion %.3f ms (new image each time)\n",
-                coldMs, convMs, qtConvMs);
+    std::printf("memcpy with cold caches %.3f ms (the reference; %.3f before the run); RGB888->RGB32 pass %.3f ms (warm); Qt's RGB888->ARGB32PM conversion %.3f ms (new image each time)\n",
+                coldMs, coldBeforeMs, convMs, qtConvMs);
     std::printf("memcpy of a frame out of the segment just written by another thread: %.3f ms\n", segCopyMs);
     std::printf("produced %llu, through the reader %zu: %.1f frames/s\n",
                 (unsigned long long)run.produced.load(), frames, frames / elapsedS);
-    std::printf("latency post -> provider: p50 %.3f ms, p99 %.3f ms, max %.3f ms\n", pct(run.latencyMs, 0.5),
+    std::printf("latency post -> frame slot: p50 %.3f ms, p99 %.3f ms, max %.3f ms\n", pct(run.latencyMs, 0.5),
                 pct(run.latencyMs, 0.99), pct(run.latencyMs, 1.0));
-    std::printf("reader CPU per frame: %.3f ms = %.2f x warm memcpy, %.2f x segment memcpy (p50 %.3f, p99 %.3f ms)\n", readerCpu,
-                floorMs > 0 ? readerCpu / floorMs : 0, segCopyMs > 0 ? readerCpu / segCopyMs : 0,
-                pct(run.cpuMs, 0.5), pct(run.cpuMs, 0.99));
+    std::printf("reader CPU per frame: %.3f ms = %.2f x cold memcpy (p50 %.3f, p99 %.3f ms)\n", readerCpu,
+                coldMs > 0 ? readerCpu / coldMs : 0, pct(run.cpuMs, 0.5), pct(run.cpuMs, 0.99));
     std::printf("producer CPU per frame: %.3f ms\n", frames ? run.producerCpuNs.load() / 1e6 / run.produced.load() : 0);
     if (display) {
         const quint64 shown = distinctShown.load() - shown0;
         const double otherCpu = cpuMs - run.producerCpuNs.load() / 1e6;
-        std::printf("display: %llu distinct frames shown, %.1f frames/s, %llu served\n",
-                    (unsigned long long)shown, shown / elapsedS, (unsigned long long)show->framesServed());
-        std::printf("display: CPU (reader + GUI + render, producer excluded) %.2f ms per shown frame = %.2f x memcpy\n",
-                    shown ? otherCpu / shown : 0, shown && floorMs > 0 ? otherCpu / shown / floorMs : 0);
-        std::printf("display: reader share %.2f ms per shown frame (%.1f frames read per frame shown)\n",
-                shown ? cpuSum / shown : 0, shown ? double(frames) / shown : 0);
+        std::vector<double> swapLatency;
+        {
+            QMutexLocker swapLock(&swapMutex);
+            for (const auto &[serial, at] : swaps) {
+                const qint64 posted = run.postBySerial[serial & 0xffff];
+                if (posted > 0 && at > posted)
+                    swapLatency.push_back((at - posted) / 1e6);
+            }
+        }
+        std::printf("display (%s): %llu distinct frames shown, %.1f frames/s\n", qPrintable(api),
+                    (unsigned long long)shown, shown / elapsedS);
+        std::printf("display: latency post -> swap p50 %.2f ms, p99 %.2f ms, max %.2f ms\n", pct(swapLatency, 0.5),
+                    pct(swapLatency, 0.99), pct(swapLatency, 1.0));
+        std::printf("display: CPU (reader + GUI + render, producer excluded) %.2f ms per shown frame = %.2f x cold memcpy\n",
+                    shown ? otherCpu / shown : 0, shown && coldMs > 0 ? otherCpu / shown / coldMs : 0);
+        std::printf("display: reader share %.2f ms per shown frame (%.2f frames read per frame shown)\n",
+                    shown ? cpuSum / shown : 0, shown ? double(frames) / shown : 0);
         std::printf("CPU by thread over the run (ms; threads named by Qt/Mesa, 10 ms ticks):");
         for (const auto &t : threads1) {
             const auto before = threads0.find(t.first);
@@ -362,14 +444,49 @@ int main(int argc, char **argv)
             const auto before = threads0.find(t.first);
             noRaster += t.second - (before == threads0.end() ? 0 : before->second);
         }
-        std::printf("display: CPU without the producer and the software GL rasteriser (llvmpipe, a GPU on the device): %.2f ms per shown frame = %.2f x memcpy\n",
-                    shown ? noRaster / shown : 0, shown && floorMs > 0 ? noRaster / shown / floorMs : 0);
+        std::printf("display: CPU without the producer and the software GL rasteriser (llvmpipe, a GPU on the device): %.2f ms per shown frame = %.2f x cold memcpy\n",
+                    shown ? noRaster / shown : 0, shown && coldMs > 0 ? noRaster / shown / coldMs : 0);
         std::printf("GUI thread: 10 ms timer lateness p50 %.2f ms, p99 %.2f ms, max %.2f ms\n", pct(guiLagMs, 0.5),
                     pct(guiLagMs, 0.99), pct(guiLagMs, 1.0));
+        std::printf("RESULT api=%s fps=%.2f cpu=%.4f cpu_noraster=%.4f p50=%.3f p99=%.3f cold=%.4f reads=%.3f\n",
+                    qPrintable(api), shown / elapsedS, shown ? otherCpu / shown : 0, shown ? noRaster / shown : 0,
+                    pct(swapLatency, 0.5), pct(swapLatency, 0.99), coldMs, shown ? double(frames) / shown : 0);
     }
     std::fflush(stdout);
     view.reset();
     producer.removeAll();
+
+    if (!display && !qEnvironmentVariableIsEmpty("DISPLAY")) {
+        // The whole path, each renderer in a process of its own (the scene
+        // graph backend is chosen once per process).
+        std::printf("\n");
+        std::vector<std::pair<QString, WindowResult>> results;
+        for (const QString &which : {QStringLiteral("software"), QStringLiteral("opengl")}) {
+            QProcess child;
+            child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            QStringList args{QStringLiteral("--window"), which, QString::number(seconds)};
+            if (fps > 0)
+                args << QStringLiteral("--fps") << QString::number(fps);
+            child.start(QCoreApplication::applicationFilePath(), args);
+            child.waitForFinished(seconds * 1000 + 60000);
+            const QByteArray out = child.readAllStandardOutput();
+            std::printf("== window, %s renderer\n%s\n", qPrintable(which), out.constData());
+            results.emplace_back(which, parseResult(out));
+        }
+        std::printf("SUMMARY (reference: cold memcpy of one frame, %.3f ms in this process)\n", coldMs);
+        std::printf("  reader alone: %.3f ms per frame = %.2f x cold memcpy\n", readerCpu, coldMs > 0 ? readerCpu / coldMs : 0);
+        for (const auto &[which, r] : results) {
+            if (!r.ok) {
+                std::printf("  %s: no result\n", qPrintable(which));
+                continue;
+            }
+            std::printf("  %s (scene graph: %s): %.1f distinct frames/s, whole path %.3f ms per shown frame = %.2f x cold memcpy"
+                        " (%.2f x without llvmpipe), %.2f reads per shown frame, post->swap p50 %.2f ms p99 %.2f ms\n",
+                        qPrintable(which), qPrintable(r.api), r.fps, r.cpuMs, r.coldMs > 0 ? r.cpuMs / r.coldMs : 0,
+                        r.coldMs > 0 ? r.cpuNoRasterMs / r.coldMs : 0, r.readsPerShown, r.p50, r.p99);
+        }
+        std::fflush(stdout);
+    }
     // The reader object's destructor pauses 1 s and detaches; not needed here.
     std::_Exit(0);
 }

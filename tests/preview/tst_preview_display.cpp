@@ -1,10 +1,14 @@
 // The preview display object and its provider, and the preview control
 // (PreviewImage.qml) loaded as the screens load it.
+#include "PreviewItem.h"
+#include "PreviewTestProducer.h"
+#include "UiproGetImageShareData.h"
 #include "UiprocImageShow.h"
 
 #include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QScreen>
 #include <QSGRendererInterface>
 #include <QSignalSpy>
 #include <QtTest/QtTest>
@@ -19,25 +23,52 @@ QImage uniform(int w, int h, QRgb colour)
     return img;
 }
 
-// The control with the frame source, in a window that is shown or not.
+// Four quadrants (red, green / blue, white) under a yellow band over the
+// top fifth: where each lands on screen tells placement and orientation.
+QImage quadrants(int w, int h)
+{
+    QImage img(w, h, QImage::Format_RGB32);
+    for (int y = 0; y < h; ++y) {
+        for (int x = 0; x < w; ++x) {
+            const bool right = x >= w / 2, bottom = y >= h / 2;
+            img.setPixel(x, y, y < h / 5 ? qRgb(255, 255, 0)
+                                 : bottom ? (right ? qRgb(255, 255, 255) : qRgb(0, 0, 255))
+                                          : (right ? qRgb(0, 255, 0) : qRgb(255, 0, 0)));
+        }
+    }
+    return img;
+}
+
+bool near(QRgb a, QRgb b)
+{
+    return qAbs(qRed(a) - qRed(b)) <= 16 && qAbs(qGreen(a) - qGreen(b)) <= 16 && qAbs(qBlue(a) - qBlue(b)) <= 16;
+}
+
+// The control with the frame source, in a black window of 160x90 that is
+// shown or not.
 struct Harness
 {
     QQuickView view;
     UiprocImageShow *show = new UiprocImageShow(view.engine());
     QObject *root = nullptr;
+    PreviewItem *item = nullptr;
 
     explicit Harness(bool shown)
     {
         view.engine()->rootContext()->setContextProperty(QStringLiteral("CodeImage"), show);
         view.engine()->addImageProvider(QStringLiteral("MyMainCodeImg"), show->provider());
         view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.setColor(Qt::black);
         view.setSource(QUrl::fromLocalFile(QStringLiteral(CS_SOURCE_DIR "/qml/CONTROLS/PreviewImage.qml")));
         view.resize(160, 90);
         if (shown)
             view.show();
         root = view.rootObject();
+        item = root ? root->findChild<PreviewItem *>(QStringLiteral("previewPicture")) : nullptr;
     }
-    QString source() const { return root->findChild<QObject *>("previewPicture")->property("source").toString(); }
+    int shownCount() const { return root->property("framesShown").toInt(); }
+    // What the window last put on the screen (its backing store).
+    QImage screen() { return view.screen()->grabWindow(view.winId()).toImage().convertToFormat(QImage::Format_RGB32); }
 };
 } // namespace
 
@@ -50,6 +81,7 @@ private slots:
     {
         // No OpenGL in the test environment: the software scene graph also swaps frames.
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+        qmlRegisterType<PreviewItem>("cs.Preview", 1, 0, "PreviewItem");
     }
 
     void setMainImageCopiesRectangle_data()
@@ -117,60 +149,135 @@ private slots:
         delete show.provider();
     }
 
-    void controlFollowsFramesUnlessPaused()
+    // The picture is the newest frame's pixels, placed by the fill mode and
+    // scaled by the renderer whatever the frame's size.
+    void itemShowsFramePixels_data()
+    {
+        using Probes = QVector<QPair<QPoint, QRgb>>;
+        QTest::addColumn<QSize>("frame");
+        QTest::addColumn<int>("fillMode");
+        QTest::addColumn<Probes>("probes");
+        const QRgb R = qRgb(255, 0, 0), G = qRgb(0, 255, 0), B = qRgb(0, 0, 255), W = qRgb(255, 255, 255),
+                   Y = qRgb(255, 255, 0), K = qRgb(0, 0, 0);
+        const Probes full{{{40, 30}, R}, {{120, 30}, G}, {{40, 67}, B}, {{120, 67}, W}, {{80, 5}, Y}};
+        QTest::newRow("same size") << QSize(160, 90) << int(PreviewItem::PreserveAspectFit) << full;
+        QTest::newRow("smaller: scaled up") << QSize(32, 18) << int(PreviewItem::PreserveAspectFit) << full;
+        QTest::newRow("larger: scaled down") << QSize(640, 360) << int(PreviewItem::PreserveAspectFit) << full;
+        QTest::newRow("odd width, packed rows") << QSize(166, 94) << int(PreviewItem::Stretch) << full;
+        QTest::newRow("square, fit: bars left and right")
+            << QSize(40, 40) << int(PreviewItem::PreserveAspectFit)
+            << Probes{{{55, 30}, R}, {{105, 30}, G}, {{55, 67}, B}, {{105, 67}, W}, {{80, 5}, Y}, {{10, 45}, K}, {{150, 45}, K}};
+        QTest::newRow("square, stretch")
+            << QSize(40, 40) << int(PreviewItem::Stretch)
+            << Probes{{{10, 30}, R}, {{150, 30}, G}, {{10, 67}, B}, {{150, 67}, W}, {{80, 5}, Y}};
+        QTest::newRow("square, crop: top band cut off")
+            << QSize(40, 40) << int(PreviewItem::PreserveAspectCrop)
+            << Probes{{{40, 5}, R}, {{120, 5}, G}, {{40, 80}, B}, {{120, 80}, W}};
+    }
+    void itemShowsFramePixels()
+    {
+        QFETCH(QSize, frame);
+        QFETCH(int, fillMode);
+        using Probes = QVector<QPair<QPoint, QRgb>>;
+        QFETCH(Probes, probes);
+        Harness h(true);
+        QVERIFY(h.item);
+        QVERIFY(QTest::qWaitForWindowExposed(&h.view));
+        h.root->setProperty("fillMode", fillMode);
+        h.show->deliverFrame(quadrants(frame.width(), frame.height()));
+        QTRY_COMPARE(h.shownCount(), 1);
+        QCOMPARE(h.item->frameSize(), frame);
+        const QImage screen = h.screen();
+        for (const auto &[at, colour] : probes)
+            QVERIFY2(near(screen.pixel(at), colour),
+                     qPrintable(QStringLiteral("at %1,%2: %3, expected %4").arg(at.x()).arg(at.y())
+                                    .arg(screen.pixel(at), 8, 16).arg(colour, 8, 16)));
+    }
+
+    // Frames that come before the picture is drawn replace the waiting one:
+    // the screen gets the newest, once. Paused, the picture stays; frames
+    // still keep it live, and the newest is shown when the pause ends.
+    void newestReplacesWaiting_data()
+    {
+        QTest::addColumn<int>("frames");
+        QTest::addColumn<bool>("paused");
+        QTest::newRow("one frame") << 1 << false;
+        QTest::newRow("three frames before a draw") << 3 << false;
+        QTest::newRow("paused: picture kept") << 3 << true;
+    }
+    void newestReplacesWaiting()
+    {
+        QFETCH(int, frames);
+        QFETCH(bool, paused);
+        Harness h(true);
+        QVERIFY(QTest::qWaitForWindowExposed(&h.view));
+        h.show->deliverFrame(uniform(32, 18, qRgb(10, 20, 30)));
+        QTRY_COMPARE(h.shownCount(), 1);
+        h.root->setProperty("paused", paused);
+        for (int i = 1; i <= frames; ++i) // no event is handled in between
+            h.show->deliverFrame(uniform(32, 18, qRgb(40 * i, 100, 200)));
+        QTest::qWait(100);
+        QCOMPARE(h.shownCount(), paused ? 1 : 2);
+        QCOMPARE(h.screen().pixel(80, 45), paused ? qRgb(10, 20, 30) : qRgb(40 * frames, 100, 200));
+        QCOMPARE(h.root->property("live").toBool(), true);
+        if (paused) {
+            h.root->setProperty("paused", false);
+            QTRY_COMPARE(h.shownCount(), 2);
+            QCOMPARE(h.screen().pixel(80, 45), qRgb(40 * frames, 100, 200));
+        }
+    }
+
+    void liveUntilFramesStop()
     {
         Harness h(false);
         QVERIFY(h.root);
         QCOMPARE(h.root->property("live").toBool(), false);
         h.root->setProperty("staleAfterMs", 300);
         h.show->deliverFrame(uniform(32, 18, qRgb(1, 2, 3)));
-        // (QUrl lower-cases the provider name, as the engine does when it looks it up.)
-        QVERIFY(h.source().startsWith(QStringLiteral("image://MyMainCodeImg/"), Qt::CaseInsensitive));
-        QCOMPARE(h.root->property("live").toBool(), true);
-        QCOMPARE(h.root->property("framesShown").toInt(), 1);
-        // Each frame gets a new id, so it is fetched again rather than cached.
-        const QString first = h.source();
-        h.show->deliverFrame(uniform(32, 18, qRgb(4, 5, 6)));
-        QTRY_COMPARE(h.show->framesServed(), quint64(2));
-        QVERIFY(h.source() != first);
-        // No frames for a while: not live, until the next one.
-        QTRY_COMPARE_WITH_TIMEOUT(h.root->property("live").toBool(), false, 2000);
-        h.root->setProperty("paused", true);
-        h.show->deliverFrame(uniform(8, 8, qRgb(9, 9, 9)));
-        QCOMPARE(h.root->property("live").toBool(), true); // frames arrive, only not fetched while paused
+        QTRY_COMPARE(h.root->property("live").toBool(), true);
         QTest::qWait(150);
-        QCOMPARE(h.show->framesServed(), quint64(2));
-        h.root->setProperty("paused", false);
-        h.show->deliverFrame(uniform(8, 8, qRgb(10, 10, 10)));
-        QCOMPARE(h.show->framesServed(), quint64(3));
+        h.show->deliverFrame(uniform(32, 18, qRgb(4, 5, 6)));
+        QTest::qWait(200); // 350 ms after the first, 200 after the last
+        QCOMPARE(h.root->property("live").toBool(), true);
+        QTRY_COMPARE_WITH_TIMEOUT(h.root->property("live").toBool(), false, 2000);
     }
 
-    void controlFetchesOncePerDrawnFrame_data()
+    // End to end with a producer that never waits: the reader converts the
+    // frames the screen takes, not every frame the producer offers, and
+    // the last frame produced is the one on screen.
+    void readerFeedsTheScreenOnDemand()
     {
-        QTest::addColumn<bool>("window");
-        QTest::newRow("shown in a window") << true;
-        QTest::newRow("window not shown: paced") << false;
-    }
-    void controlFetchesOncePerDrawnFrame()
-    {
-        QFETCH(bool, window);
-        Harness h(window);
-        QVERIFY(!window || QTest::qWaitForWindowExposed(&h.view));
-        int swaps = 0;
-        connect(&h.view, &QQuickWindow::frameSwapped, this, [&] { ++swaps; }, Qt::DirectConnection);
-        // A producer much faster than the display: every frame signals, the
-        // control fetches at most one per drawn frame (or per 100 ms undrawn).
-        QElapsedTimer clock;
-        clock.start();
-        const int burst = 200;
-        for (int i = 0; i < burst; ++i) {
-            h.show->deliverFrame(uniform(160, 90, qRgb(i % 256, 40, 80)));
-            QCoreApplication::processEvents();
-        }
-        QTRY_COMPARE(h.show->lastServedFrame(), quint64(burst)); // the newest frame ends up shown
-        const quint64 served = h.show->framesServed(), allowed = window ? swaps + 3 : clock.elapsed() / 100 + 2;
-        QVERIFY2(served <= allowed && served < burst / 2,
-                 qPrintable(QStringLiteral("%1 fetches, %2 swaps, %3 ms").arg(served).arg(swaps).arg(clock.elapsed())));
+        using namespace PreviewTest;
+        qputenv("CS_PREVIEW_SHM_KEY", QByteArray::number(privateKey(5)));
+        qputenv("CS_PREVIEW_SEM_KEY", QByteArray::number(privateKey(6)));
+        Harness h(true);
+        QVERIFY(QTest::qWaitForWindowExposed(&h.view));
+        Producer producer(privateKey(5), privateKey(6));
+        QVERIFY(producer.ok());
+        UiproGetImageShareData reader;
+        reader.getShareImageData();
+        std::atomic<bool> stop{false};
+        std::atomic<int> produced{0};
+        const int w = 160, hgt = 90;
+        std::thread feed([&] {
+            for (int seed = 0; !stop.load(); ++seed) {
+                if (producer.send(w, hgt, makePattern(w, hgt, seed), 100))
+                    produced.fetch_add(1);
+            }
+        });
+        QTest::qWait(1500);
+        stop.store(true);
+        feed.join();
+        const std::vector<uint8_t> last = makePattern(w, hgt, produced.load() - 1);
+        producer.send(w, hgt, last, 1000); // and one that stays the newest
+        const QImage expected = expectedImage(last, w, hgt);
+        QTRY_COMPARE(h.screen().copy(0, 0, w, hgt).convertToFormat(QImage::Format_RGB32), expected);
+        const int shown = h.shownCount();
+        const quint64 read = h.show->framesDelivered();
+        reader.stopReader();
+        producer.removeAll();
+        QVERIFY2(shown > 10 && read <= quint64(shown) + quint64(shown) / 4 + 3,
+                 qPrintable(QStringLiteral("%1 produced, %2 read, %3 shown").arg(produced.load()).arg(read).arg(shown)));
     }
 };
 
