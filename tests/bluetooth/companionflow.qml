@@ -1,12 +1,14 @@
 import QtQuick 2.15
 
-// Creates the real main window and plays the operator: accepts the
-// destination the phone (cs-phone) sent, switches Bluetooth on, searches
-// for phones and connects the one the simulator reports. Prints what it
-// saw; the test reads these lines.
+// Creates the real main window and plays the operator through a companion
+// session: accepts the destination the phone (cs-phone) sent, connects the
+// phone a search finds, goes live from the stream page, and confirms the
+// stop the phone asks for. Prints PROBE lines for the test; a step that
+// does not come about in time ends the run with "PROBE fail".
 Item {
     id: probe
     property var window: null
+    Component.onCompleted: window = Qt.createComponent("qrc:/main.qml").createObject(probe)
 
     function find(item, name) {
         if (!item) return null
@@ -17,34 +19,73 @@ Item {
         }
         return null
     }
-    function shown(name) { var item = find(probe.window.contentItem, name); return item && item.visible ? item : null }
+    function shown(name, within) {
+        var item = find(within || probe.window.contentItem, name)
+        return item && item.visible ? item : null
+    }
+    function touch(name, within) {
+        var b = shown(name, within)
+        if (!b || b.enabledState === false) return false
+        b.clicked()
+        return true
+    }
+    function host() { return find(probe.window.contentItem, "pageHost") }
+    function store() { return probe.window.companion }
 
-    Component.onCompleted: window = Qt.createComponent("qrc:/main.qml").createObject(probe)
+    readonly property string phoneMac: "5c-f9-38-12-34-56"
+    // The stop request waits for the test, which has the phone send it
+    // after the first heartbeat: about ten seconds after going live.
+    readonly property var steps: [
+        { what: "offer shown", act: function () { return true }, done: function () { return shown("companionAccept") !== null },
+          report: function () { return "page=" + host().current + " offer=" + shown("companionOfferUrl").text } },
+        { what: "accepted", act: function () { return touch("companionAccept") },
+          done: function () { return store().offer === null && store().room !== "" },
+          report: function () { return "room=" + store().room + " token=" + store().token } },
+        { what: "phone found", act: function () { return touch("bluetoothOn") && touch("searchPhones") },
+          done: function () { return shown("phone_" + probe.phoneMac) !== null } },
+        { what: "phone connected", act: function () { return touch("phone_" + probe.phoneMac) },
+          done: function () { return store().lastResult !== null },
+          report: function () { return JSON.stringify(store().lastResult) + " phones=" + JSON.stringify(store().phones) } },
+        { what: "stream page", act: function () { return touch("pageClose") && touch("streamButton") },
+          done: function () { return host().current === "stream" } },
+        { what: "go live asks", act: function () { return touch("streamGoLive") }, done: function () { return shown("streamConfirm") !== null } },
+        { what: "session live", act: function () { return touch("confirmAction", shown("streamConfirm")) },
+          done: function () { return store().session === "live" },
+          report: function () { return "address=" + probe.store().stream.liveAddress } },
+        { what: "stop asked", act: function () { return true }, limit: 250,
+          done: function () { return host().current === "bluetooth" && shown("companionConfirm") !== null } },
+        { what: "stopped", act: function () { return touch("confirmAction", shown("companionConfirm")) },
+          done: function () { return store().session === "" && !store().streaming },
+          report: function () { return "streams=" + JSON.stringify(probe.store().live.streams) + " stopAsked=" + store().stopAsked } }
+    ]
+    property int step: 0
+    property int waited: 0
+    property bool acted: false
 
     Timer {
-        interval: 250; repeat: true; running: true
-        property int ticks: 0
-        property string step: "offer"
+        interval: 100; repeat: true; running: probe.window !== null
         onTriggered: {
-            ticks++
-            var store = probe.window.companion
-            if (step === "offer" && shown("companionAccept")) {
-                console.log("PROBE page=" + probe.find(probe.window.contentItem, "pageHost").current
-                            + " offer=" + shown("companionOfferUrl").text)
-                shown("companionAccept").clicked()
-                console.log("PROBE accepted room=" + store.room + " offer=" + JSON.stringify(store.offer))
-                shown("bluetoothOn").clicked()
-                shown("searchPhones").clicked()
-                step = "search"
-            } else if (step === "search" && shown("phone_5c-f9-38-12-34-56")) {
-                shown("phone_5c-f9-38-12-34-56").clicked()
-                step = "connect"
-            } else if (step === "connect" && store.lastResult) {
-                console.log("PROBE result=" + JSON.stringify(store.lastResult) + " phones=" + JSON.stringify(store.phones))
-                step = "done"
+            if (probe.step === probe.steps.length) {
+                // The last answer to the phone leaves from another thread.
+                if (++probe.waited > 10)
+                    Qt.quit()
+                return
             }
-            if (step === "done" || ticks > 100) {
-                console.log("PROBE end step=" + step)
+            var s = probe.steps[probe.step]
+            probe.waited++
+            if (!probe.acted) {
+                probe.acted = s.act()
+            } else if (s.done()) {
+                console.log("PROBE " + s.what + (s.report ? " " + s.report() : ""))
+                probe.step++
+                probe.acted = false
+                probe.waited = 0
+                return
+            }
+            if (probe.waited > (s.limit || 150)) {
+                console.log("PROBE fail at \"" + s.what + "\" page=" + (probe.host() ? probe.host().current : "?")
+                            + (probe.store() ? " session=" + probe.store().session + " searching=" + probe.store().searching
+                                               + " phones=" + JSON.stringify(probe.store().phones) + " refusal=" + probe.store().stream.refusal : ""))
                 Qt.quit()
             }
         }

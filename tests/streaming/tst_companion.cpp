@@ -1,71 +1,17 @@
 // Calls to the companion streaming service against an HTTPS server of the
 // test's own on loopback (self-signed certificate): the request as it
 // arrives, and which replies count as success.
+#include "HttpsTestServer.h"
 #include "TestSysroot.h"
 #include "UiproRtmp_Desktop.h"
 
 #include <QNetworkAccessManager>
 #include <QSignalSpy>
-#include <QSslCertificate>
-#include <QSslKey>
 #include <QSslSocket>
-#include <QTcpServer>
 #include <QtTest>
 
 // Waits until every request has finished: each takes its manager along.
 #define SETTLE(rtmp) QTRY_VERIFY_WITH_TIMEOUT((rtmp).findChildren<QNetworkAccessManager *>().isEmpty(), 15000)
-
-namespace {
-
-struct Answer
-{
-    int status = 200;
-    QByteArray body;
-    int delayMs = 0;
-};
-
-// One request per connection; the answer is chosen by path.
-class TlsServer : public QTcpServer
-{
-public:
-    QSslCertificate cert;
-    QSslKey key;
-    QMap<QByteArray, Answer> answers;
-    QList<QByteArray> requests; // head and body as received
-
-protected:
-    void incomingConnection(qintptr fd) override
-    {
-        auto *s = new QSslSocket(this);
-        s->setSocketDescriptor(fd);
-        s->setLocalCertificate(cert);
-        s->setPrivateKey(key);
-        auto *buf = new QByteArray;
-        connect(s, &QSslSocket::disconnected, s, [s, buf] { delete buf; s->deleteLater(); });
-        connect(s, &QSslSocket::readyRead, s, [this, s, buf] {
-            *buf += s->readAll();
-            const int end = buf->indexOf("\r\n\r\n");
-            if (end < 0)
-                return;
-            const QByteArray head = buf->left(end).toLower();
-            const int at = head.indexOf("content-length:");
-            const int len = at < 0 ? 0 : head.mid(at + 15, head.indexOf("\r\n", at) - at - 15).trimmed().toInt();
-            if (buf->size() < end + 4 + len)
-                return;
-            requests << *buf;
-            const Answer a = answers.value(buf->split(' ').value(1));
-            buf->clear();
-            QTimer::singleShot(a.delayMs, s, [s, a] {
-                s->write("HTTP/1.1 " + QByteArray::number(a.status) + " X\r\nContent-Type: application/json\r\nContent-Length: "
-                         + QByteArray::number(a.body.size()) + "\r\nConnection: close\r\n\r\n" + a.body);
-                s->disconnectFromHost();
-            });
-        });
-        s->startServerEncryption();
-    }
-};
-
-} // namespace
 
 class TestCompanion : public QObject
 {
@@ -82,20 +28,14 @@ private:
 
     TestSysroot m_root;
     QTemporaryDir m_dir;
-    TlsServer m_server;
+    HttpsTestServer m_server;
 };
 
 void TestCompanion::initTestCase()
 {
     QVERIFY(QSslSocket::supportsSsl());
-    QProcess openssl;
-    openssl.start("openssl", {"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "2", "-subj", "/CN=localhost",
-                              "-keyout", m_dir.filePath("key.pem"), "-out", m_dir.filePath("cert.pem")});
-    QVERIFY2(openssl.waitForFinished(60000) && openssl.exitCode() == 0, openssl.readAllStandardError().constData());
-    m_server.cert = QSslCertificate(TestSysroot::readFile(m_dir.filePath("cert.pem")));
-    m_server.key = QSslKey(TestSysroot::readFile(m_dir.filePath("key.pem")), QSsl::Rsa);
-    QVERIFY(!m_server.cert.isNull() && !m_server.key.isNull());
-    QVERIFY(m_server.listen(QHostAddress::LocalHost));
+    QString error;
+    QVERIFY2(m_server.start(m_dir.path(), &error), qPrintable(error));
 }
 
 void TestCompanion::reply_data()
