@@ -279,6 +279,53 @@ private slots:
         QVERIFY2(shown > 10 && read <= quint64(shown) + quint64(shown) / 4 + 3,
                  qPrintable(QStringLiteral("%1 produced, %2 read, %3 shown").arg(produced.load()).arg(read).arg(shown)));
     }
+
+    // A display that says it draws but never takes a frame (a window that
+    // stopped being shown without saying so) slows the producer down to a
+    // few frames a second; it never stops it. With no drawing display the
+    // producer is never held back.
+    void displayHoldsTheProducerBriefly_data()
+    {
+        QTest::addColumn<bool>("stuckDisplay");
+        QTest::addColumn<int>("atLeast");
+        QTest::addColumn<int>("atMost");
+        QTest::newRow("no drawing display") << false << 40 << 100000;
+        QTest::newRow("drawing display that never takes") << true << 3 << 20;
+    }
+    void displayHoldsTheProducerBriefly()
+    {
+        QFETCH(bool, stuckDisplay);
+        QFETCH(int, atLeast);
+        QFETCH(int, atMost);
+        using namespace PreviewTest;
+        struct Stuck : PreviewFrameListener
+        {
+            std::atomic<int> told{0};
+            void previewFrameStored() override { told.fetch_add(1); }
+        } stuck;
+        qputenv("CS_PREVIEW_SHM_KEY", QByteArray::number(privateKey(7)));
+        qputenv("CS_PREVIEW_SEM_KEY", QByteArray::number(privateKey(8)));
+        UiprocImageShow show;
+        const std::shared_ptr<PreviewFrameSlot> slot = show.frameSlot();
+        slot->addDisplay(&stuck);
+        slot->setDrawing(&stuck, stuckDisplay);
+        Producer producer(privateKey(7), privateKey(8));
+        QVERIFY(producer.ok());
+        UiproGetImageShareData reader;
+        reader.getShareImageData();
+        const std::vector<uint8_t> px = makePattern(64, 36, 1);
+        QElapsedTimer clock;
+        clock.start();
+        int sent = 0;
+        while (clock.elapsed() < 1000)
+            sent += producer.send(64, 36, px, 300);
+        reader.stopReader();
+        slot->removeDisplay(&stuck);
+        producer.removeAll();
+        delete show.provider();
+        QVERIFY2(sent >= atLeast && sent <= atMost, qPrintable(QStringLiteral("%1 frames in a second").arg(sent)));
+        QVERIFY(stuck.told.load() >= sent - 2); // every frame handed on was announced
+    }
 };
 
 QTEST_MAIN(TstPreviewDisplay)
