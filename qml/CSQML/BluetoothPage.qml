@@ -14,7 +14,8 @@ Column {
 
     readonly property var offer: store ? store.offer : null
     readonly property bool stopAsked: store ? store.stopAsked : false
-    onStopAskedChanged: askStop()
+    // Withdrawn (the stream went off meanwhile): the question goes with it.
+    onStopAskedChanged: if (stopAsked) askStop(); else confirm.visible = false
     onStoreChanged: askStop()
     function askStop() {
         if (stopAsked)

@@ -146,6 +146,10 @@ QtObject {
         return domain !== "" && address.indexOf(domain) >= 0
     }
     onStreamingChanged: {
+        // The app's stop request is moot once nothing is on air, whoever
+        // stopped it: kept, it would ask again about a later stream.
+        if (!streaming)
+            stopAsked = false
         if (!rtmp || !link)
             return
         if (streaming && session === "" && token !== "" && room !== "" && liveToCompanion()) {

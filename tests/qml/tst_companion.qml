@@ -111,6 +111,7 @@ Item {
 
         function test_appAsksToStop_data() {
             return [{ tag: "while streaming", streaming: true, asked: true },
+                    { tag: "stream stopped before the answer", streaming: true, asked: true, stoppedMeanwhile: true },
                     { tag: "nothing on air", streaming: false, asked: false }]
         }
         function test_appAsksToStop(data) {
@@ -124,6 +125,12 @@ Item {
             var page = createTemporaryObject(pageComponent, root, { store: store })
             var dialog = findChild(page.Window.contentItem, "companionConfirm")
             tryCompare(dialog, "visible", true)
+            if (data.stoppedMeanwhile) {
+                fakeLive.streaming = false
+                compare([store.stopAsked, dialog.visible], [false, false])
+                compare(fake.sent, [])
+                return
+            }
             mouseClick(findChild(dialog, "confirmAction"))
             compare(fake.sent, ["stream stop"])
             compare(store.stopAsked, false)
