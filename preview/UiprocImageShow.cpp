@@ -1,9 +1,9 @@
 #include "UiprocImageShow.h"
 
-#include <QDeadlineTimer>
 #include <QPixmap>
 
 #include <algorithm>
+#include <chrono>
 
 #include <pthread.h>
 #include <sched.h>
@@ -13,57 +13,53 @@
 namespace {
 std::atomic<UiprocImageShow *> g_lastShow{nullptr};
 // Held while the reader hands a frame over and while an instance goes away.
-QMutex g_lastShowMutex;
+std::mutex g_lastShowMutex;
 } // namespace
 
 void PreviewFrameSlot::addDisplay(PreviewFrameListener *listener)
 {
-    QMutexLocker lock(&mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     displays.push_back({listener, false});
 }
 
 void PreviewFrameSlot::removeDisplay(PreviewFrameListener *listener)
 {
-    QMutexLocker lock(&mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     displays.erase(std::remove_if(displays.begin(), displays.end(),
                                   [listener](const Display &d) { return d.listener == listener; }),
                    displays.end());
-    demand.wakeAll();
+    demand.notify_all();
 }
 
 void PreviewFrameSlot::setDrawing(PreviewFrameListener *listener, bool drawing)
 {
-    QMutexLocker lock(&mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     for (Display &d : displays) {
         if (d.listener == listener)
             d.drawing = drawing;
     }
-    demand.wakeAll();
+    demand.notify_all();
 }
 
 QImage PreviewFrameSlot::takeNewer(quint64 shownSerial, quint64 *serial)
 {
-    QMutexLocker lock(&mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     const quint64 newest = delivered.load(std::memory_order_relaxed);
     *serial = newest;
     if (takenSerial != newest) {
         takenSerial = newest;
-        demand.wakeAll();
+        demand.notify_all();
     }
     return newest != shownSerial ? frame : QImage();
 }
 
 bool PreviewFrameSlot::waitForDemand(int ms)
 {
-    QMutexLocker lock(&mutex);
-    QDeadlineTimer deadline(ms);
-    for (;;) {
+    std::unique_lock<std::mutex> lock(mutex);
+    return demand.wait_for(lock, std::chrono::milliseconds(ms), [this] {
         const bool anyDrawing = std::any_of(displays.begin(), displays.end(), [](const Display &d) { return d.drawing; });
-        if (!anyDrawing || takenSerial == delivered.load(std::memory_order_relaxed))
-            return true;
-        if (!demand.wait(&mutex, deadline))
-            return false;
-    }
+        return !anyDrawing || takenSerial == delivered.load(std::memory_order_relaxed);
+    });
 }
 
 UiprocImageProvider::UiprocImageProvider()
@@ -79,7 +75,7 @@ UiprocImageProvider::UiprocImageProvider(std::shared_ptr<PreviewFrameSlot> slot)
 
 QImage UiprocImageProvider::takeForServing()
 {
-    QMutexLocker lock(&m_slot->mutex);
+    std::lock_guard<std::mutex> lock(m_slot->mutex);
     if (!m_slot->frame.isNull()) {
         m_slot->served.fetch_add(1, std::memory_order_relaxed);
         m_slot->lastServedSerial.store(m_slot->delivered.load(std::memory_order_relaxed), std::memory_order_relaxed);
@@ -99,7 +95,7 @@ QPixmap UiprocImageProvider::requestPixmap(const QString &, QSize *, const QSize
 
 QImage UiprocImageProvider::currentFrame() const
 {
-    QMutexLocker lock(&m_slot->mutex);
+    std::lock_guard<std::mutex> lock(m_slot->mutex);
     return m_slot->frame;
 }
 
@@ -108,13 +104,13 @@ UiprocImageShow::UiprocImageShow(QObject *parent)
     , m_slot(std::make_shared<PreviewFrameSlot>())
     , m_provider(new UiprocImageProvider(m_slot))
 {
-    QMutexLocker lock(&g_lastShowMutex);
+    std::lock_guard<std::mutex> lock(g_lastShowMutex);
     g_lastShow.store(this);
 }
 
 UiprocImageShow::~UiprocImageShow()
 {
-    QMutexLocker lock(&g_lastShowMutex);
+    std::lock_guard<std::mutex> lock(g_lastShowMutex);
     UiprocImageShow *self = this;
     g_lastShow.compare_exchange_strong(self, nullptr);
     // The provider belongs to the engine once installed; a provider that was
@@ -129,7 +125,7 @@ UiprocImageShow *UiprocImageShow::instance()
 
 bool UiprocImageShow::deliverToCurrent(const QImage &frame)
 {
-    QMutexLocker lock(&g_lastShowMutex);
+    std::lock_guard<std::mutex> lock(g_lastShowMutex);
     UiprocImageShow *show = g_lastShow.load();
     if (!show)
         return false;
@@ -139,7 +135,7 @@ bool UiprocImageShow::deliverToCurrent(const QImage &frame)
 
 std::shared_ptr<PreviewFrameSlot> UiprocImageShow::currentSlot()
 {
-    QMutexLocker lock(&g_lastShowMutex);
+    std::lock_guard<std::mutex> lock(g_lastShowMutex);
     UiprocImageShow *show = g_lastShow.load();
     return show ? show->m_slot : nullptr;
 }
@@ -162,7 +158,7 @@ void UiprocImageShow::storeAndNotify(QImage &&frame)
 {
     PreviewFrameSlot &slot = *m_slot;
     {
-        QMutexLocker lock(&slot.mutex);
+        std::lock_guard<std::mutex> lock(slot.mutex);
         slot.frame.swap(frame);
         slot.delivered.fetch_add(1, std::memory_order_relaxed);
         for (const PreviewFrameSlot::Display &d : slot.displays)

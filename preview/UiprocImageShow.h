@@ -4,10 +4,11 @@
 #include <QMutex>
 #include <QObject>
 #include <QQuickImageProvider>
-#include <QWaitCondition>
 
 #include <atomic>
+#include <condition_variable>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 // A display that shows frames straight from the slot (PreviewItem). Told on
@@ -26,7 +27,10 @@ protected:
 // neither holds a raw pointer to the other.
 struct PreviewFrameSlot
 {
-    QMutex mutex;     // guards frame; image handles are not safe to swap under concurrent readers
+    // Guards frame (image handles are not safe to swap under concurrent
+    // readers) and the display state below. A standard mutex, so thread
+    // checkers see it.
+    std::mutex mutex;
     QImage frame;
     std::atomic<quint64> served{0};      // frames handed to the engine
     std::atomic<quint64> delivered{0};   // frames stored in the slot
@@ -37,7 +41,7 @@ struct PreviewFrameSlot
     struct Display { PreviewFrameListener *listener; bool drawing; };
     std::vector<Display> displays;
     quint64 takenSerial = 0;  // `delivered` count of the frame a display took last
-    QWaitCondition demand;    // a display took a frame or stopped drawing
+    std::condition_variable demand; // a display took a frame or stopped drawing
 
     void addDisplay(PreviewFrameListener *listener);
     void removeDisplay(PreviewFrameListener *listener);
