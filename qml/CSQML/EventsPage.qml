@@ -66,6 +66,15 @@ Column {
         font.pixelSize: Style.fontNormal
         font.bold: true
     }
+    Text {
+        objectName: "noEvents"
+        width: page.width
+        visible: !page.store || page.store.events.length === 0
+        text: qsTr("No events yet: create one below.")
+        color: Style.textDim
+        font.pixelSize: Style.fontSmall
+        wrapMode: Text.WordWrap
+    }
     Repeater {
         model: page.store ? page.store.events : []
         Rectangle {

@@ -699,6 +699,10 @@
         <source>Delete event</source>
         <translation>删除活动</translation>
     </message>
+    <message>
+        <source>No events yet: create one below.</source>
+        <translation>还没有活动：请在下方创建。</translation>
+    </message>
 </context>
 <context>
     <name>FanPage</name>

@@ -700,6 +700,10 @@
         <source>Delete event</source>
         <translation>Event löschen</translation>
     </message>
+    <message>
+        <source>No events yet: create one below.</source>
+        <translation>Noch keine Events: unten eines anlegen.</translation>
+    </message>
 </context>
 <context>
     <name>FanPage</name>

@@ -700,6 +700,10 @@
         <source>Delete event</source>
         <translation>Delete event</translation>
     </message>
+    <message>
+        <source>No events yet: create one below.</source>
+        <translation>No events yet: create one below.</translation>
+    </message>
 </context>
 <context>
     <name>FanPage</name>
