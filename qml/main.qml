@@ -33,8 +33,11 @@ Window {
     // The switcher pages' store (formats, PIP, audio), made with the device start too.
     property var switcher: null
     Component { id: switcherStore; SwitcherStore {} }
-    StreamStore { id: stream; manage: manage; live: live }
-    MediaStore { id: media; manage: manage; live: live; board: window.board; currentVersion: system.about.version || "" }
+    // The streaming and USB disk stores, made with the device start too.
+    property var stream: null
+    Component { id: streamStore; StreamStore {} }
+    property var media: null
+    Component { id: mediaStore; MediaStore {} }
     // A start the disk refused, from wherever it was asked, is explained on
     // the record page; the bridge firmware step after an upgrade reports on
     // the upgrade page.
@@ -61,7 +64,7 @@ Window {
         anchors.fill: parent
         store: live
         pageStores: ({ live: live, system: system, board: board, media: media, stream: stream, companion: companion, ndi: ndi, camera: camera, scopes: scopes, switcher: switcher })
-        upgrading: media.upgrading
+        upgrading: media ? media.upgrading : false
         keyboardTop: keyboard.item && keyboard.item.active ? keyboard.y : height
     }
 
@@ -127,6 +130,10 @@ Window {
         manage.uiproBluetooth.getBlueData()
         board = boardStore.createObject(window, { manage: manage })
         board.start(settings)
+        stream = streamStore.createObject(window, { manage: manage, live: live })
+        stream.loadSettings(settings)
+        media = mediaStore.createObject(window, { manage: manage, live: live, board: board })
+        media.currentVersion = Qt.binding(function () { return system.about.version || "" })
         companion = companionStore.createObject(window, { manage: manage, live: live, stream: stream })
         companion.start(settings)
         ndi = ndiStore.createObject(window, { manage: manage })
@@ -154,7 +161,6 @@ Window {
         }
         live.loadSettings(settings)
         system.loadSettings(settings)
-        stream.loadSettings(settings)
         startSettings = settings
     }
 }
