@@ -65,6 +65,19 @@ qlonglong startTimeOf(QSettings &s, const QString &group)
     return t;
 }
 
+void writeStartTime(const QString &strName, const QVariant &startTime)
+{
+    if (!usableEventName(strName, "createOneEvent"))
+        return;
+    EventFile f;
+    // Asks for a top-level key, never an event (events are groups): an
+    // existing event gets its start time overwritten and keeps the rest.
+    if (f.s.contains(strName))
+        return;
+    f.s.beginGroup(strName);
+    f.s.setValue(QStringLiteral("StartTime"), startTime);
+    f.s.endGroup();
+}
 } // namespace
 
 UiproRtmp_Desktop::UiproRtmp_Desktop(QObject *parent)
@@ -98,30 +111,15 @@ void UiproRtmp_Desktop::getAllEventInfo()
     }
 }
 
+// Both overloads: the start time is stored as it was given (text or number).
 void UiproRtmp_Desktop::createOneEvent(QString strName, QString strStartTime)
 {
-    if (!usableEventName(strName, "createOneEvent"))
-        return;
-    EventFile f;
-    // Asks for a top-level key, never an event (events are groups): an
-    // existing event gets its start time overwritten and keeps the rest.
-    if (f.s.contains(strName))
-        return;
-    f.s.beginGroup(strName);
-    f.s.setValue(QStringLiteral("StartTime"), strStartTime);
-    f.s.endGroup();
+    writeStartTime(strName, strStartTime);
 }
 
 void UiproRtmp_Desktop::createOneEvent(QString strName, qlonglong nStartTime)
 {
-    if (!usableEventName(strName, "createOneEvent"))
-        return;
-    EventFile f;
-    if (f.s.contains(strName))
-        return;
-    f.s.beginGroup(strName);
-    f.s.setValue(QStringLiteral("StartTime"), nStartTime);
-    f.s.endGroup();
+    writeStartTime(strName, nStartTime);
 }
 
 void UiproRtmp_Desktop::delOneEventByName(QString strName)
