@@ -65,15 +65,15 @@ struct Writer
 
 } // namespace
 
-Mp4Spec recordingSpec(qint64 elapsedMs)
+Mp4Params recordingSpec(qint64 elapsedMs)
 {
-    Mp4Spec spec;
+    Mp4Params spec;
     spec.lengthMs = std::max<qint64>(1000, elapsedMs);
     spec.frames = int(std::clamp<qint64>(spec.lengthMs / 1000, 1, 60));
     return spec;
 }
 
-bool writeMp4(const QString &path, const Mp4Spec &spec, QString *error)
+bool writeMp4(const QString &path, const Mp4Params &spec, QString *error)
 {
     auto fail = [error](const QString &why) {
         if (error)

@@ -6,7 +6,7 @@
 
 namespace Sim {
 
-struct Mp4Spec
+struct Mp4Params
 {
     int width = 320;
     int height = 180;
@@ -19,10 +19,10 @@ struct Mp4Spec
 };
 
 // Creates or replaces `path`. False, with *error set, when it cannot.
-bool writeMp4(const QString &path, const Mp4Spec &spec, QString *error = nullptr);
+bool writeMp4(const QString &path, const Mp4Params &spec, QString *error = nullptr);
 
 // A recording of `elapsedMs`: one frame a second, at most 60 frames spread
 // over the whole time, so the file's length is the time recorded.
-Mp4Spec recordingSpec(qint64 elapsedMs);
+Mp4Params recordingSpec(qint64 elapsedMs);
 
 } // namespace Sim

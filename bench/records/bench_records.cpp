@@ -99,7 +99,7 @@ int main(int argc, char **argv)
     QElapsedTimer made;
     made.start();
     for (int i = 0; i < count; ++i) {
-        Sim::Mp4Spec spec;
+        Sim::Mp4Params spec;
         spec.width = 320;
         spec.height = 180;
         spec.frames = 3;

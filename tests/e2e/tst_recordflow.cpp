@@ -23,7 +23,7 @@ private slots:
         TestSysroot root(true);
         QVERIFY(root.isValid());
         plugDisk(root);
-        Sim::Mp4Spec spec;
+        Sim::Mp4Params spec;
         spec.lengthMs = 4000;
         QString why;
         QVERIFY2(Sim::writeMp4(root.path(QStringLiteral("/media/usb0/existing.mp4")), spec, &why), qPrintable(why));

@@ -28,7 +28,7 @@ void plugDisk(const TestSysroot &sr)
 
 void writeMp4(const QString &file, int w, int h, int frames, qint64 lengthMs, const char *format = "mp4", bool audio = false)
 {
-    Sim::Mp4Spec spec{w, h, frames, lengthMs, audio, format};
+    Sim::Mp4Params spec{w, h, frames, lengthMs, audio, format};
     QString why;
     QVERIFY2(Sim::writeMp4(file, spec, &why), qPrintable(file + ": " + why));
 }
@@ -361,7 +361,7 @@ void TstRecord::simulatorRecordingIsListed()
     command(0xC2, 1, 1);
     command(0xC2, 1, 2);
     QCOMPARE(recorded, QStringLiteral("/media/usb0/show1.mp4"));
-    const Sim::Mp4Spec spec = Sim::recordingSpec(75400); // 75 s: 60 frames spread over it
+    const Sim::Mp4Params spec = Sim::recordingSpec(75400); // 75 s: 60 frames spread over it
     QCOMPARE(spec.frames, 60);
     QVERIFY(Sim::writeMp4(sr.path(recorded), spec));
     UiproRecord_Desktop record;
