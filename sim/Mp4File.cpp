@@ -65,15 +65,15 @@ struct Writer
 
 } // namespace
 
-Mp4Params recordingSpec(qint64 elapsedMs)
+Mp4Params recordingParams(qint64 elapsedMs)
 {
-    Mp4Params spec;
-    spec.lengthMs = std::max<qint64>(1000, elapsedMs);
-    spec.frames = int(std::clamp<qint64>(spec.lengthMs / 1000, 1, 60));
-    return spec;
+    Mp4Params params;
+    params.lengthMs = std::max<qint64>(1000, elapsedMs);
+    params.frames = int(std::clamp<qint64>(params.lengthMs / 1000, 1, 60));
+    return params;
 }
 
-bool writeMp4(const QString &path, const Mp4Params &spec, QString *error)
+bool writeMp4(const QString &path, const Mp4Params &params, QString *error)
 {
     auto fail = [error](const QString &why) {
         if (error)
@@ -81,10 +81,10 @@ bool writeMp4(const QString &path, const Mp4Params &spec, QString *error)
         return false;
     };
     Writer w;
-    int rc = avformat_alloc_output_context2(&w.out, nullptr, spec.format, nullptr);
+    int rc = avformat_alloc_output_context2(&w.out, nullptr, params.format, nullptr);
     if (rc < 0 || !w.out)
-        return fail(QStringLiteral("no muxer %1").arg(QLatin1String(spec.format)));
-    const AVCodec *encoder = avcodec_find_encoder(spec.audioOnly ? AV_CODEC_ID_AAC : AV_CODEC_ID_MPEG4);
+        return fail(QStringLiteral("no muxer %1").arg(QLatin1String(params.format)));
+    const AVCodec *encoder = avcodec_find_encoder(params.audioOnly ? AV_CODEC_ID_AAC : AV_CODEC_ID_MPEG4);
     if (!encoder)
         return fail(QStringLiteral("no encoder"));
     w.stream = avformat_new_stream(w.out, nullptr);
@@ -94,18 +94,18 @@ bool writeMp4(const QString &path, const Mp4Params &spec, QString *error)
     if (!w.stream || !w.codec || !w.frame || !w.packet)
         return fail(QStringLiteral("out of memory"));
 
-    const int frames = std::max(1, spec.frames);
-    const qint64 lengthMs = std::max<qint64>(1, spec.lengthMs);
+    const int frames = std::max(1, params.frames);
+    const qint64 lengthMs = std::max<qint64>(1, params.lengthMs);
     AVCodecContext *c = w.codec;
-    if (spec.audioOnly) {
+    if (params.audioOnly) {
         c->sample_fmt = AV_SAMPLE_FMT_FLTP;
         c->sample_rate = 48000;
         av_channel_layout_default(&c->ch_layout, 1);
         c->bit_rate = 32000;
         c->time_base = AVRational{1, c->sample_rate};
     } else {
-        c->width = spec.width;
-        c->height = spec.height;
+        c->width = params.width;
+        c->height = params.height;
         c->pix_fmt = AV_PIX_FMT_YUV420P;
         c->time_base = AVRational{1, 1000};
         c->gop_size = 1; // every frame a key frame: any spacing is fine
@@ -127,7 +127,7 @@ bool writeMp4(const QString &path, const Mp4Params &spec, QString *error)
         return fail(QStringLiteral("header: %1").arg(avError(rc)));
 
     AVFrame *f = w.frame;
-    if (spec.audioOnly) {
+    if (params.audioOnly) {
         f->format = c->sample_fmt;
         f->nb_samples = c->frame_size;
         av_channel_layout_copy(&f->ch_layout, &c->ch_layout);

@@ -19,10 +19,10 @@ struct Mp4Params
 };
 
 // Creates or replaces `path`. False, with *error set, when it cannot.
-bool writeMp4(const QString &path, const Mp4Params &spec, QString *error = nullptr);
+bool writeMp4(const QString &path, const Mp4Params &params, QString *error = nullptr);
 
 // A recording of `elapsedMs`: one frame a second, at most 60 frames spread
 // over the whole time, so the file's length is the time recorded.
-Mp4Params recordingSpec(qint64 elapsedMs);
+Mp4Params recordingParams(qint64 elapsedMs);
 
 } // namespace Sim

@@ -151,7 +151,7 @@ int main(int argc, char **argv)
         const QString file = Platform::path(devicePath);
         QThreadPool::globalInstance()->start([file, elapsedMs] {
             QString why;
-            if (Sim::writeMp4(file, Sim::recordingSpec(elapsedMs), &why))
+            if (Sim::writeMp4(file, Sim::recordingParams(elapsedMs), &why))
                 qCInfo(lcSim).noquote() << "recording written:" << file;
             else
                 qCWarning(lcSim).noquote() << "recording not written:" << file << why;

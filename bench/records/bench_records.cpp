@@ -99,13 +99,13 @@ int main(int argc, char **argv)
     QElapsedTimer made;
     made.start();
     for (int i = 0; i < count; ++i) {
-        Sim::Mp4Params spec;
-        spec.width = 320;
-        spec.height = 180;
-        spec.frames = 3;
-        spec.lengthMs = 1000 + qint64(i) * 37000; // up to a few hours
+        Sim::Mp4Params params;
+        params.width = 320;
+        params.height = 180;
+        params.frames = 3;
+        params.lengthMs = 1000 + qint64(i) * 37000; // up to a few hours
         QString why;
-        if (!Sim::writeMp4(dir + QStringLiteral("/REC_%1.mp4").arg(i, 4, 10, QLatin1Char('0')), spec, &why)) {
+        if (!Sim::writeMp4(dir + QStringLiteral("/REC_%1.mp4").arg(i, 4, 10, QLatin1Char('0')), params, &why)) {
             std::fprintf(stderr, "cannot write a recording: %s\n", qPrintable(why));
             return 1;
         }

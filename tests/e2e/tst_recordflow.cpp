@@ -23,10 +23,10 @@ private slots:
         TestSysroot root(true);
         QVERIFY(root.isValid());
         plugDisk(root);
-        Sim::Mp4Params spec;
-        spec.lengthMs = 4000;
+        Sim::Mp4Params params;
+        params.lengthMs = 4000;
         QString why;
-        QVERIFY2(Sim::writeMp4(root.path(QStringLiteral("/media/usb0/existing.mp4")), spec, &why), qPrintable(why));
+        QVERIFY2(Sim::writeMp4(root.path(QStringLiteral("/media/usb0/existing.mp4")), params, &why), qPrintable(why));
 
         AppRun run(root);
         QVERIFY(run.startSimulator());

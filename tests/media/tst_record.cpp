@@ -28,9 +28,9 @@ void plugDisk(const TestSysroot &sr)
 
 void writeMp4(const QString &file, int w, int h, int frames, qint64 lengthMs, const char *format = "mp4", bool audio = false)
 {
-    Sim::Mp4Params spec{w, h, frames, lengthMs, audio, format};
+    Sim::Mp4Params params{w, h, frames, lengthMs, audio, format};
     QString why;
-    QVERIFY2(Sim::writeMp4(file, spec, &why), qPrintable(file + ": " + why));
+    QVERIFY2(Sim::writeMp4(file, params, &why), qPrintable(file + ": " + why));
 }
 
 // The five entries whose base name is `name`, or none.
@@ -361,9 +361,9 @@ void TstRecord::simulatorRecordingIsListed()
     command(0xC2, 1, 1);
     command(0xC2, 1, 2);
     QCOMPARE(recorded, QStringLiteral("/media/usb0/show1.mp4"));
-    const Sim::Mp4Params spec = Sim::recordingSpec(75400); // 75 s: 60 frames spread over it
-    QCOMPARE(spec.frames, 60);
-    QVERIFY(Sim::writeMp4(sr.path(recorded), spec));
+    const Sim::Mp4Params params = Sim::recordingParams(75400); // 75 s: 60 frames spread over it
+    QCOMPARE(params.frames, 60);
+    QVERIFY(Sim::writeMp4(sr.path(recorded), params));
     UiproRecord_Desktop record;
     QCOMPARE(groupOf(record.get_usb_record_files(), "show1").mid(2), QStringList({"00:01:15", "320*180", "/media/usb0/show1.mp4"}));
 }
