@@ -12,7 +12,7 @@ qml-module-qttest qml-module-qtmultimedia
 qml-module-qtquick-virtualkeyboard qtvirtualkeyboard-plugin qml-module-qt-labs-folderlistmodel
 libavformat-dev libavcodec-dev libavutil-dev
 libgl1-mesa-dri fonts-dejavu-core fonts-wqy-microhei
-xvfb xauth ffmpeg procps strace ccache
+xvfb xauth xdotool ffmpeg procps strace ccache
 net-tools iproute2 dnsmasq-base busybox openssl"
 missing=""
 for p in $PACKAGES; do
