@@ -154,12 +154,16 @@ Rectangle {
     }
 
     function confirmStopRecording() {
-        confirm.ask(qsTr("Stop the recording now?"), qsTr("Stop recording"), function () { view.store.stopRecording() })
+        confirm.active = true
+        confirm.item.ask(qsTr("Stop the recording now?"), qsTr("Stop recording"), function () { view.store.stopRecording() })
     }
 
-    ConfirmDialog {
+    // Made the first time a question is asked.
+    Loader {
         id: confirm
-        objectName: "confirmDialog"
         anchors.fill: parent
+        z: 100
+        active: false
+        sourceComponent: ConfirmDialog { objectName: "confirmDialog" }
     }
 }

@@ -23,7 +23,9 @@ TestCase {
         fake.recording = false
         fake.linkAlive = true
         fake.streams = [1, 0, 0, 0]
-        findChild(view, "confirmDialog").visible = false
+        var dialog = findChild(view, "confirmDialog") // made on first use
+        if (dialog)
+            dialog.visible = false
     }
 
     function test_inputTilePutsInputOnProgramme() {
