@@ -300,19 +300,19 @@ void UiprocNetwork::slot_shellReadGateWay()
 {
     const QString text = QString::fromLocal8Bit(m_gatewayProcess->readAllStandardOutput());
     writeLog(text.left(4096));
-    if (!text.contains(QLatin1String("eth0")))
-        m_gateway = QStringLiteral("0.0.0.0");
-    bool found = false;
-    for (const QString &line : text.split(QLatin1Char('\n'))) {
-        // "G" is the gateway flag; the last such eth0 line wins.
-        if (line.contains(QLatin1String("eth0")) && line.contains(QLatin1Char('G'))) {
-            m_gateway = line.split(QLatin1Char(' '), Qt::SkipEmptyParts).value(1);
-            found = true;
-        }
-    }
-    if (!found)
-        m_gateway = QStringLiteral("0.0.0.0");
+    m_gateway = gatewayFromRoute(text);
     reportAddress();
+}
+
+QString UiprocNetwork::gatewayFromRoute(const QString &routeOutput)
+{
+    QString gateway = QStringLiteral("0.0.0.0");
+    for (const QString &line : routeOutput.split(QLatin1Char('\n'))) {
+        // "G" is the gateway flag; the last such eth0 line wins.
+        if (line.contains(QLatin1String("eth0")) && line.contains(QLatin1Char('G')))
+            gateway = line.split(QLatin1Char(' '), Qt::SkipEmptyParts).value(1);
+    }
+    return gateway;
 }
 
 void UiprocNetwork::reportAddress()

@@ -38,6 +38,9 @@ public:
 
     // Four decimal parts 0..255, no leading zeros, nothing else.
     static bool isDottedIPv4(const QString &text);
+    // The gateway of eth0 in the output of `route -n`: the second column of
+    // the last eth0 line with the "G" flag, "0.0.0.0" when there is none.
+    static QString gatewayFromRoute(const QString &routeOutput);
 
     // The fixed name servers written for a static address.
     static const char kResolvConf[];
