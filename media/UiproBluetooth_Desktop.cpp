@@ -173,6 +173,7 @@ void readerLoop(std::shared_ptr<BluetoothReaderState> state)
     pthread_setname_np(pthread_self(), "cs-bluetooth");
     QByteArray node;
     QString pushHost;
+    bool hungUp = false;
     for (;;) {
         {
             // Decided under the lock, so a getBlueData() racing with the end
@@ -209,12 +210,18 @@ void readerLoop(std::shared_ptr<BluetoothReaderState> state)
                 ::close(fd);
                 continue; // woken without data after all
             }
-            if (n < 0)
-                say("read error");
-            else if (n == 0)
-                say("read nothing");
-            else
+            if (n <= 0) {
+                const QString why = n < 0 ? QString::fromLocal8Bit(std::strerror(errno)) : QStringLiteral("end of file");
+                say(n < 0 ? "read error" : "read nothing");
+                // A node that hung up (phone gone, device unbound) keeps failing
+                // once a second until it comes back: said once per outage.
+                if (!hungUp)
+                    writeLog(QStringLiteral("bluetooth: %1 hung up (%2); waiting for it").arg(QString::fromLocal8Bit(node), why));
+                hungUp = true;
+            } else {
+                hungUp = false;
                 handleText(s, QByteArray(buffer, int(n)), pushHost);
+            }
         }
         ::close(fd);
         if (ready != 0)
