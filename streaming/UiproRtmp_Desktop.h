@@ -39,6 +39,8 @@ public:
     static QString zorFilePath();
     static QString usbUrlFilePath();
     QString companionHost() const;
+    // Time-out of the companion requests sent from now on (tests shorten it).
+    void setRequestTimeout(int ms) { m_requestTimeoutMs = ms; }
 
 signals:
     void sigEventInfo(QString strName, QString strStartTime);
@@ -83,4 +85,5 @@ public slots:
 private:
     bool importUrlFile(const QString &path, const QString &logPrefix);
     QString m_lastRequestUrl;
+    int m_requestTimeoutMs = kRequestTimeoutMs;
 };

@@ -63,7 +63,7 @@ void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QS
     request.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/x-www-form-urlencoded"));
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
     request.setRawHeader(QByteArrayLiteral("cookie"), QByteArrayLiteral("api_token=") + Token.toLatin1());
-    request.setTransferTimeout(kRequestTimeoutMs);
+    request.setTransferTimeout(m_requestTimeoutMs);
     writeLog(tr("提交的用户token：") + shownValue(Token));
 
     // One manager per request, as in-flight calls (a heartbeat and an end
