@@ -1,5 +1,6 @@
 #include "SettingsStore.h"
 
+#include "LineThrottle.h"
 #include "LogCategories.h"
 #include "Logger.h"
 #include "Platform.h"
@@ -9,6 +10,12 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QSettings>
+#include <QTemporaryDir>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <functional>
 
 // The factory settings (config/factory.qrc) live in the static core library:
 // nothing would pull them into an executable without this reference.
@@ -45,16 +52,60 @@ namespace {
 
 QString settingKey(const char *name) { return QStringLiteral("/setting/") + QLatin1String(name); }
 
-// A fresh INI reader/writer per operation, UTF-8 before any access.
+// A fresh INI reader per operation, UTF-8 before any access.
 struct Ini
 {
-    Ini()
-        : s(filePath(), QSettings::IniFormat)
+    explicit Ini(const QString &file = filePath())
+        : s(file, QSettings::IniFormat)
     {
         s.setIniCodec("utf-8");
     }
     QSettings s;
 };
+
+// Folders of changes in progress, beside the file.
+const QString kWorkPrefix = QStringLiteral(".CS_Config.ini.new-");
+
+void saveFailed(const QString &why)
+{
+    static LineThrottle throttle;
+    int held = 0;
+    if (throttle.admit(&held))
+        writeLog(QStringLiteral("settings not saved: %1%2")
+                     .arg(why, held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+}
+
+// QSettings' own sync takes a lock file beside the settings; killed at the
+// wrong moment it leaves that lock behind (and the files its stale-lock
+// removal makes, one more each time), and a later write may wait for it.
+// So a change is made on a copy in a private folder beside the file and
+// renamed over it in one step: a reader finds the old file or the new one.
+void change(const std::function<void(QSettings &)> &edit)
+{
+    const QString target = filePath();
+    const QFileInfo info(target);
+    const QDir dir = info.dir();
+    if (!dir.exists())
+        return; // nowhere to write, as QSettings would
+    // What killed changes left (the store is the file's only writer).
+    for (const QString &left : dir.entryList({kWorkPrefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot))
+        QDir(dir.filePath(left)).removeRecursively();
+    QTemporaryDir work(dir.filePath(kWorkPrefix + QStringLiteral("XXXXXX")));
+    if (!work.isValid())
+        return saveFailed(work.errorString());
+    const QString copy = work.filePath(info.fileName());
+    if (info.exists() && !QFile::copy(target, copy))
+        return saveFailed(QStringLiteral("cannot copy ") + target);
+    {
+        Ini ini(copy);
+        edit(ini.s);
+        ini.s.sync();
+        if (ini.s.status() != QSettings::NoError)
+            return saveFailed(QStringLiteral("cannot write ") + copy);
+    }
+    if (::rename(QFile::encodeName(copy).constData(), QFile::encodeName(target).constData()) != 0)
+        saveFailed(QStringLiteral("cannot replace %1: %2").arg(target, QString::fromLocal8Bit(std::strerror(errno))));
+}
 
 } // namespace
 
@@ -134,18 +185,18 @@ void read(QJsonObject &obj)
 
 void write(const QJsonObject &data)
 {
-    Ini ini;
-    for (const Key &k : kKeys) {
-        const QLatin1String name(k.name);
-        if (!data.contains(name))
-            continue;
-        const QJsonValue v = data.value(name);
-        if (k.type == KeyType::Int)
-            ini.s.setValue(settingKey(k.name), v.toInt());
-        else
-            ini.s.setValue(settingKey(k.name), v.toString());
-    }
-    ini.s.sync();
+    change([&data](QSettings &s) {
+        for (const Key &k : kKeys) {
+            const QLatin1String name(k.name);
+            if (!data.contains(name))
+                continue;
+            const QJsonValue v = data.value(name);
+            if (k.type == KeyType::Int)
+                s.setValue(settingKey(k.name), v.toInt());
+            else
+                s.setValue(settingKey(k.name), v.toString());
+        }
+    });
 }
 
 bool isFirst()
@@ -156,8 +207,7 @@ bool isFirst()
 
 void setFirst(bool first)
 {
-    Ini ini;
-    ini.s.setValue(QStringLiteral("/setting/First"), first);
+    change([first](QSettings &s) { s.setValue(QStringLiteral("/setting/First"), first); });
 }
 
 QString obsPath()
@@ -168,8 +218,7 @@ QString obsPath()
 
 void setObsPath(const QString &path)
 {
-    Ini ini;
-    ini.s.setValue(QStringLiteral("/setting/OBSPath"), path);
+    change([&path](QSettings &s) { s.setValue(QStringLiteral("/setting/OBSPath"), path); });
 }
 
 int openLogSwitch()
