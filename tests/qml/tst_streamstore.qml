@@ -110,26 +110,21 @@ TestCase {
                 "one line for the whole import")
     }
 
-    function test_goLive_data() {
-        var y = "rtmp://a.youtube.com/live/k1", t = "rtmp://live.twitch.com/app/k2"
-        return [{ tag: "nothing switched on", urls: [{ url: y, on: false }], sent: [],
+    function test_goLiveRefused_data() {
+        return [{ tag: "nothing switched on", urls: [{ url: "rtmp://a.youtube.com/live/k1", on: false }],
                   refusal: "No paltform is available,please select one paltform first" },
-                { tag: "two platforms", urls: [{ url: y, on: true }, { url: "rtmp://x/off", on: false }, { url: t, on: true }],
-                  sent: ["params 0 1 6000", "onAir 1 " + y + "," + t + " true",
-                         'save {"rtmpSwitch":1,"rtmpAddr":"' + y + "," + t + '","eventName":"Show"}'], refusal: "" },
                 { tag: "more platforms than channels", urls: [1, 2, 3, 4, 5].map(function (i) { return { url: "rtmp://x/" + i, on: true } }),
-                  sent: [], refusal: "At most 4 platforms can be live at once; switch some off." }]
+                  refusal: "At most 4 platforms can be live at once; switch some off." }]
     }
-    function test_goLive(data) {
+    function test_goLiveRefused(data) {
         event("Show", 0, data.urls, ["1", "1", "2"])
         store.eventName = "Show"
         store.refresh()
         fakeManage.log = []
-        compare(store.goLive(), data.refusal === "")
-        compare(fakeManage.log, data.sent)
+        verify(!store.goLive())
+        compare(fakeManage.log, [])
         compare(store.refusal, data.refusal)
-        compare(store.channelState(0), data.refusal === "" ? "starting" : "off")
-        compare(store.channelState(2), "off")
+        compare(store.channelState(0), "off")
     }
 
     function test_channelsFollowTheDeviceThenStop() {
@@ -149,20 +144,17 @@ TestCase {
         compare([store.channelState(0), store.phase], ["off", ""])
     }
 
-    function test_createEvent_data() {
+    function test_createEventRefused_data() {
         var tomorrow = Date.now() + 24 * 3600 * 1000
-        return [{ tag: "free name", name: " Sunday ", start: tomorrow, made: true, refusal: "" },
-                { tag: "name taken", name: "Taken", start: tomorrow, made: false, refusal: "An event named “Taken” exists already. Choose another name." },
-                { tag: "past", name: "Late", start: Date.now() - 60000, made: false, refusal: "The start time has passed. Choose a later one." },
-                { tag: "slash would nest groups", name: "a/b", start: tomorrow, made: false, refusal: "An event name cannot hold a slash or a backslash." }]
+        return [{ tag: "name taken", name: "Taken", start: tomorrow, refusal: "An event named “Taken” exists already. Choose another name." },
+                { tag: "past", name: "Late", start: Date.now() - 60000, refusal: "The start time has passed. Choose a later one." },
+                { tag: "slash would nest groups", name: "a/b", start: tomorrow, refusal: "An event name cannot hold a slash or a backslash." }]
     }
-    function test_createEvent(data) {
+    function test_createEventRefused(data) {
         event("Taken", 5, [])
-        compare(store.createEvent(data.name, data.start), data.made)
+        verify(!store.createEvent(data.name, data.start))
         compare(store.refusal, data.refusal)
-        compare(fakeManage.log, data.made ? ["create " + data.name.trim() + " " + data.start] : [])
-        if (data.made)
-            compare(store.events.map(function (e) { return e.name }), [data.name.trim(), "Taken"], "listed latest first")
+        compare(fakeManage.log, [])
     }
 
     function test_deletingTheEventInUseFallsBackToCurrent() {
