@@ -89,7 +89,6 @@ private slots:
         QTest::newRow("no file: factory, follow locale") << QByteArray() << QByteArray() << "de_DE" << ":/translations/de.qm" << "2";
         QTest::newRow("import read first") << QByteArray("language=0") << QByteArray("language=2") << "zh_CN" << ":/translations/de.qm" << "2";
         QTest::newRow("stored German") << QByteArray("language=2") << QByteArray() << "zh_CN" << ":/translations/de.qm" << "";
-        QTest::newRow("absent reads as 0") << QByteArray("") << QByteArray() << "de_DE" << ":/translations/cn.qm" << "";
         QTest::newRow("junk reads as 0") << QByteArray("language=abc") << QByteArray() << "de_DE" << ":/translations/cn.qm" << "";
         QTest::newRow("unknown code: nothing") << QByteArray("language=5") << QByteArray() << "de_DE" << "" << "";
     }

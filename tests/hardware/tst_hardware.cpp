@@ -105,7 +105,6 @@ private slots:
         const QStringList init{"echo 0 > /sys/class/pwm/pwmchip1/export", "sleep 1", "echo 50000 > /sys/class/pwm/pwmchip1/pwm0/period",
                                "echo 1 > /sys/class/pwm/pwmchip1/pwm0/enable"};
         const auto duty = [](int v) { return QStringList{QStringLiteral("echo %1 > /sys/class/pwm/pwmchip1/pwm0/duty_cycle").arg(v)}; };
-        QTest::newRow("fan 0") << Call([](UiProc &p) { p.connectFans(0); }) << duty(0) << "UiProc::sendFans ==================== fans rate:0";
         QTest::newRow("fan 100") << Call([](UiProc &p) { p.connectFans(100); }) << duty(49990) << "UiProc::sendFans ==================== fans rate:49990";
         QTest::newRow("fan 50 with init") << Call([](UiProc &p) { p.connectFans(50, true); }) << init + duty(24995)
                                           << "UiProc::sendFans ==================== fans init";

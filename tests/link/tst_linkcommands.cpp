@@ -242,9 +242,6 @@ private slots:
                               QJsonObject{{"VideoType", 1}, {"Resolution", "1920x1080i@50"}},
                               QJsonObject{{"VideoType", 2}, {"Resolution", "1280x720@30"}},
                               QJsonObject{{"VideoType", 3}, {"Resolution", "3840x2160@29.97"}}};
-        QTest::newRow("index 1, interlaced")
-            << 1 << four << QByteArray("<T0000f0b3010800ac>") + QByteArray::fromHex("01800738043201f7")
-            << "UiProc::connectSetInputSignalFormat-------------- currentInputType:1 VideoType:1 Resolution:1920x1080i@50";
         QTest::newRow("index 2, progressive")
             << 2 << four << QByteArray("<T0000f0b3020800ad>") + QByteArray::fromHex("020005d0021e00f7")
             << "UiProc::connectSetInputSignalFormat-------------- currentInputType:2 VideoType:2 Resolution:1280x720@30";

@@ -160,8 +160,6 @@ private slots:
         const QRgb R = qRgb(255, 0, 0), G = qRgb(0, 255, 0), B = qRgb(0, 0, 255), W = qRgb(255, 255, 255),
                    Y = qRgb(255, 255, 0), K = qRgb(0, 0, 0);
         const Probes full{{{40, 30}, R}, {{120, 30}, G}, {{40, 67}, B}, {{120, 67}, W}, {{80, 5}, Y}};
-        QTest::newRow("same size") << QSize(160, 90) << int(PreviewItem::PreserveAspectFit) << full;
-        QTest::newRow("smaller: scaled up") << QSize(32, 18) << int(PreviewItem::PreserveAspectFit) << full;
         QTest::newRow("larger: scaled down") << QSize(640, 360) << int(PreviewItem::PreserveAspectFit) << full;
         QTest::newRow("odd width, packed rows") << QSize(166, 94) << int(PreviewItem::Stretch) << full;
         QTest::newRow("square, fit: bars left and right")
@@ -201,7 +199,6 @@ private slots:
     {
         QTest::addColumn<int>("frames");
         QTest::addColumn<bool>("paused");
-        QTest::newRow("one frame") << 1 << false;
         QTest::newRow("three frames before a draw") << 3 << false;
         QTest::newRow("paused: picture kept") << 3 << true;
     }

@@ -83,17 +83,12 @@ private slots:
         QTest::addColumn<quint32>("w");
         QTest::addColumn<quint32>("h");
         QTest::addColumn<QString>("outcome");
-        QTest::newRow("1280x720") << 1280u << 720u << "shown";
         QTest::newRow("odd row 5x3 (15 bytes a row)") << 5u << 3u << "shown";
-        QTest::newRow("odd row 1279x719") << 1279u << 719u << "shown";
         QTest::newRow("1 pixel") << 1u << 1u << "shown";
         QTest::newRow("largest 2048x1536") << 2048u << 1536u << "shown";
-        QTest::newRow("0x0") << 0u << 0u << "null";
         QTest::newRow("7x0") << 7u << 0u << "null";
         QTest::newRow("one row too many") << 2048u << 1537u << "refused";
-        QTest::newRow("4096x4096") << 4096u << 4096u << "refused";
         QTest::newRow("product wraps 32 bits") << 0x10000u << 0x5556u << "refused";
-        QTest::newRow("all ones") << 0xffffffffu << 0xffffffffu << "refused";
         QTest::newRow("very wide, one row") << 3145729u << 1u << "refused";
     }
     void frames()

@@ -77,9 +77,6 @@ private slots:
         QTest::addColumn<QStringList>("expected");
 
         const QByteArray pair = entry(0, 1920, 540, 60) + entry(0, 1920, 1080, 60) + bytes({0});
-        QTest::newRow("hdmi interlaced ranks one above progressive")
-            << pair << 13 << true << QStringList{"3061 0 1920x1080 60i", "3060 0 1920x1080 60"};
-        QTest::newRow("uvc keeps 540 lines") << pair << 13 << false << QStringList{"3060 0 1920x1080 60", "2520 0 1920x540 60"};
         QTest::newRow("announced 6 gives nothing") << entry(0, 1920, 1080, 60) << 6 << true << QStringList();
         QTest::newRow("only whole entries before the terminator") << pair << 12 << false << QStringList{"2520 0 1920x540 60"};
         QTest::newRow("announced beyond the block reads what is there")
@@ -116,8 +113,6 @@ private slots:
         const QString wrong = QStringLiteral("UiprocVideo_Desktop::dealNDISignalToJson no correct signal number:");
         const QByteArray two = bytes({2}) + "CAM1,A1;CAM2,A2;";
         const QStringList twoSources = {"CAM1@A1", "CAM2@A2"};
-        QTest::newRow("two sources") << two << 17 << twoSources << QStringList();
-        QTest::newRow("count says three") << bytes({3}) + two.mid(1) << 17 << twoSources << QStringList{wrong + "3"};
         QTest::newRow("text after the last ; dropped") << bytes({1}) + "X,Y;Z,W" << 8 << QStringList{"X@Y"} << QStringList();
         QTest::newRow("missing name keeps the previous one") << bytes({2}) + "A,1;2;" << 7 << QStringList{"A@1", "A@2"} << QStringList();
         QTest::newRow("first source without a name") << bytes({1}) + "1;" << 3 << QStringList{"?@1"} << QStringList();

@@ -74,7 +74,6 @@ QVector<Vector> vectors()
         {"usb", rec(0x68, 0xAD, 1), {"pushUSBStatus(1)"}, {P(" get usb")}},
         {"reset factory", rec(0x68, 0x06, 1), {"pushResetStatus(1)"}, {P(" Resetfactory fin")}},
         {"power 1", rec(0x68, 0xB0, 1, 80), {"pushPower(1,80)"}, {}},
-        {"power 2", rec(0x68, 0xB0, 2, 3), {"pushPower(2,3)"}, {}},
         {"streaming bits 0x0a", rec(0x68, 0xB5, 0x0A), {"pushRtmpStatus(1,1)", "pushRtmpStatus(3,1)"}, {}},
         {"streaming bits above 3 ignored", rec(0x68, 0xB5, 0xF0), {}, {}},
         {"play or pause", rec(0x69, 0x10, 1), {}, {P(" play or pause video")}},
@@ -120,7 +119,6 @@ QVector<Vector> vectors()
 
         {"sn", block(0x44, 0, text0("CS2024A1")), {R"(pushSN("CS2024A1"))"}, {P(" 0x44  bufflen:9"), P(" SN :CS2024A1")}},
         {"sn len 0", block(0x44, 0, {}), {R"(pushSN("No Device ID"))"}, {P(" 0x44  bufflen:0"), P(" SN len == 0")}},
-        {"sn len 1", block(0x44, 0, text0("")), {R"(pushSN(""))"}, {P(" 0x44  bufflen:1"), P(" SN :")}},
         {"sn huge announced length", block(0x44, 0, "Z", 0xFFFF), {R"(pushSN("Z"))"}, {P(" 0x44  bufflen:65535"), P(" SN :Z")}},
         {"sn control characters logged escaped", block(0x44, 0, text0("A\nB")), {"pushSN(\"A\nB\")"},
          {P(" 0x44  bufflen:4"), P(" SN :A\\x0aB")}},

@@ -38,7 +38,6 @@ QVector<Row> rows()
     const QByteArray publicGroup[] = {"<F0000f1b8000700b0>", QByteArray("public\0", 7)};
     return {
         {"cut to HDMI 2", {cmd(0x78, 1, 1)}, {"<F000078010100007a>"}, {"pushPGMCutFinish(1)"}},
-        {"preview to UVC 1", {cmd(0x78, 0, 2)}, {"<F000078000200007a>"}, {}},
         {"init input shows cut and preview", {cmd(0x78, 1, 3), cmd(0x78, 0, 4), cmd(0x78, 2, 0)}, {"<F0000780200030481>"}, {"pushInitInput(3,4)"}},
         {"cut to a missing input", {cmd(0x78, 1, 9)}, {}, {}},
         {"pip on", {cmd(0x68, 0xAA, 1, 3)}, {"<F000068aa01030016>"}, {}},
@@ -47,15 +46,10 @@ QVector<Row> rows()
         {"factory reset restores the inputs", {cmd(0x78, 1, 2), cmd(0x78, 0, 4), cmd(0x68, 0x06), cmd(0x78, 2, 0)}, {"<F000078020000017b>"}, {"pushInitInput(0,1)"}},
         {"power off (no answer)", {cmd(0x68, 0x10)}, {}, {}},
         {"battery level", {cmd(0x68, 0xB0, 1)}, {"<F000068b001500069>"}, {"pushPower(1,80)"}},
-        {"power source", {cmd(0x68, 0xB0, 2)}, {"<F000068b00201001b>"}, {"pushPower(2,1)"}},
         {"stream 1 on air", {cmd(0xF0, 0xB4, 1, 0, 0, on)}, {"<F0000d004010100d6>"}, {"pushRtmpStatus(1,1)"}},
-        {"stream status bits", {cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 3, 0, 0, on), cmd(0x68, 0xB5, 0)}, {"<F000068b50a000027>"},
-         {"pushRtmpStatus(1,1)", "pushRtmpStatus(3,1)"}},
         {"stream 1 off", {cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, off)}, {"<F0000d004000100d5>"}, {"pushRtmpStatus(1,0)"}},
         {"stream status after a stop", {cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 3, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, off), cmd(0x68, 0xB5, 0)},
          {"<F000068b508000025>"}, {"pushRtmpStatus(3,1)"}},
-        {"streams 0 and 1 live, 0 stopped", {cmd(0xF0, 0xB4, 0, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 0, 0, 0, off)},
-         {"<F0000d004000000d4>"}, {"pushRtmpStatus(0,0)"}},
         {"stream status with 1 live after 0 stopped", {cmd(0xF0, 0xB4, 0, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 0, 0, 0, off), cmd(0x68, 0xB5, 0)},
          {"<F000068b50200001f>"}, {"pushRtmpStatus(1,1)"}},
         {"two addresses in one block go live on channels 0 and 1", {cmd(0xF0, 0xB4, 0, 0, 0, onTwo)},
@@ -64,12 +58,9 @@ QVector<Row> rows()
          {"<F0000d004000000d4>", "<F0000d004000100d5>"}, {"pushRtmpStatus(0,0)", "pushRtmpStatus(1,0)"}},
         {"stream address with a bad check byte", {cmd(0xF0, 0xB4, 0, 0, 0, QByteArray("\x01\"x\"\x00", 5))}, {}, {}},
         {"stream parameters", {cmd(0xF0, 0xB5, 0, 0, 0, summed(hex("01027017")))}, {"<F0000f0b5000500aa>"}, {}},
-        {"video control", {cmd(0x69, 0x10, 2)}, {"<F000069100200007b>"}, {}},
         {"software version", {cmd(0x6A, 0)}, {"<F00006a0001080073>"}, {"pushSoftwareVersion(1,8)"}},
-        {"system version", {cmd(0x6A, 1)}, {"<F00006a0102030070>"}, {"pushSystemVersion(2,3)"}},
         {"local ip", {cmd(0x89)}, {"<F000089c0a801584a>"}, {R"(pushLocalIP("192.168.1.88"))"}},
         {"type-c", {cmd(0xC1)}, {"<F0000c101000000c2>"}, {"pushTypeCStatus(1)"}},
-        {"record status", {cmd(0xC2, 1, 3)}, {"<F0000c201030000c6>"}, {"pushRecordingStatus(0)"}},
         {"record start", {cmd(0xC2, 1, 1)}, {"<F0000c201030100c7>"}, {"pushRecordingStatus(1)"}},
         {"record stop", {cmd(0xC2, 1, 1), cmd(0xC2, 1, 2)}, {"<F0000c201030000c6>"}, {"pushRecordingStatus(0)"}},
         {"no recording without the disk", {"@usb 0", cmd(0xC2, 1, 1)}, {"<F0000c201030000c6>"}, {"pushRecordingStatus(0)"}},
@@ -81,28 +72,20 @@ QVector<Row> rows()
         {"audio channel", {cmd(0xC3, 2)}, {"<F0000c302000000c5>"}, {}},
         {"bluetooth on", {cmd(0xC5, 1)}, {"<F0000c501000000c6>"}, {}},
         {"bluetooth off empties the list", {cmd(0xC5, 0), cmd(0xF1, 0xB4, 0)}, {"<F0000f1b4000100a6>", hex("00")}, {}},
-        {"bluetooth search", {cmd(0xC5, 3, 5)}, {"<F0000c503000000c8>"}, {"pushBluetoothFin()"}},
         {"bluetooth broadcast search", {cmd(0xC5, 4)}, {"<F0000c505000000ca>"}, {"pushBluetoothFinBroadCast()"}},
-        {"bluetooth connect new", {cmd(0xC5, 0xB5)}, {"<F0000c5b50000007a>"}, {}},
         {"bluetooth connect", {cmd(0xF0, 0xB6, 0, 0, 0, speaker)}, {"<F0000f0b6000000a6>"}, {"pushConnectResult(0,true)"}},
         {"bluetooth connect unknown", {cmd(0xF0, 0xB6, 0, 0, 0, summed(hex("112233445566")))}, {"<F0000f0b6000500ab>"}, {"pushConnectResult(0,false)"}},
-        {"bluetooth disconnect", {cmd(0xF0, 0xB7, 0, 0, 0, speaker)}, {"<F0000f0b7000000a7>"}, {}},
         {"bluetooth list shows the connected device", {cmd(0xF0, 0xB6, 0, 0, 0, speaker), cmd(0xF1, 0xB4, 0)},
          {"<F0000f1b4002900ce>", hex("02" "01001a7dda710b0a") + "CS Speaker" + hex("00a4c138059e210e") + "Studio Headset"},
          {R"(pushBluetoothDevInfo(1,"0-1a-7d-da-71-b","CS Speaker"))", R"(pushBluetoothDevInfo(0,"a4-c1-38-5-9e-21","Studio Headset"))"}},
         {"bluetooth companion devices", {cmd(0xF1, 0xB4, 1)}, {"<F0000f1b4011700bd>", hex("01" "005cf938123456" "0e") + "Director Phone"},
          {R"(pushBluetoothDevInfoBroadCast(0,"5c-f9-38-12-34-56","Director Phone"))"}},
-        {"ndi switch set", {cmd(0xC6, 0, 1)}, {"<F0000c601010000c8>"}, {"pushNdiStatus(1)"}},
         {"ndi switch read", {cmd(0xC6, 0, 1), cmd(0xC6, 1)}, {"<F0000c601010000c8>"}, {"pushNdiStatus(1)"}},
         {"ndi data type set", {cmd(0xC6, 2, 3, 4)}, {"<F0000c603030400d0>"}, {"pushNdiDataType(3,4)"}},
-        {"ndi data type read", {cmd(0xC6, 3)}, {"<F0000c603000000c9>"}, {"pushNdiDataType(0,0)"}},
-        {"ndi decoding format set", {cmd(0xC6, 6, 2)}, {"<F0000c607020000cf>"}, {"pushNDIDecodingVideoFormat(2)"}},
         {"ndi decoding switch", {cmd(0xC6, 8, 1)}, {"<F0000c608010000cf>"}, {"pushNDIDecodingStatus(1)"}},
         {"ndi menu switch (no answer)", {cmd(0xC6, 4, 1)}, {}, {}},
         {"ndi group name read back", {cmd(0xF0, 0xB8, 0, 0, 0, "Studio A"), cmd(0xF1, 0xB8, 0)},
          {"<F0000f1b8000900b2>", QByteArray("Studio A\0", 9)}, {R"(pushNdiGroupName("Studio A"))"}},
-        {"ndi channel name read back empty", {cmd(0xF0, 0xB8, 1), cmd(0xF1, 0xB8, 1)}, {"<F0000f1b8010100ab>", QByteArray(1, '\0')},
-         {R"(pushNdiChannelName(""))"}},
         {"ndi device name read back, Latin-1", {cmd(0xF0, 0xB8, 2, 0, 0, "Cam\xe9ra"), cmd(0xF1, 0xB8, 2)},
          {"<F0000f1b8020700b2>", QByteArray("Cam\xe9ra\0", 7)}, {"pushNdiDeviceName(\"Cam\u00e9ra\")"}},
         {"ndi name of 256 bytes refused", {cmd(0xF0, 0xB8, 0, 0, 0, QByteArray(256, 'n')), cmd(0xF1, 0xB8, 0)},
@@ -122,14 +105,11 @@ QVector<Row> rows()
           R"#({"addr":"192.168.1.31:5961","name":"CAM-NORTH (PTZ1)"},{"addr":"192.168.1.45:5962","name":"TABLET (Slides)"}]))#"}},
         {"ptz support uvc 1", {cmd(0xC8, 3, 0)}, {"<F0000c803000f00da>"}, {"pushPTZStatus(1,1,1,1)"}},
         {"auto focus off", {cmd(0xC8, 4, 1, 1, 0)}, {"<F0000c804010100ce>"}, {"pushPTZAutoFocus(0)"}},
-        {"view set", {cmd(0xC8, 4, 0, 2, 3)}, {"<F0000c804000203d1>"}, {"pushPTZView(3)"}},
         {"view read", {cmd(0xC8, 4, 1, 2, 5), cmd(0xC8, 5, 1, 2)}, {"<F0000c805010205d5>"}, {"pushPTZView(5)"}},
-        {"ptz move (no answer)", {cmd(0xC8, 4, 0, 0, 3)}, {}, {}},
         {"preset stored, the camera is at it", {cmd(0xC8, 4, 0, 3, 2)}, {"<F0000c804000202d0>"}, {"pushPTZView(2)"}},
         {"preset out of range", {cmd(0xC8, 4, 0, 2, 9)}, {}, {}},
         {"scope (no answer)", {cmd(0xC7, 1, 3, 1, 2)}, {}, {}},
         {"sampling rate set", {cmd(0xC9, 0, 1, 2, 3)}, {"<F0000c901010203d0>"}, {"pushAudioSamplingRate(2,3)"}},
-        {"hdmi out style set", {cmd(0xC9, 0, 2, 1)}, {"<F0000c901020100cd>"}, {"pushHDMIOutStyle(1)"}},
         {"output status", {cmd(0xD0, 7, 0)}, {"<F0000d007010000d8>"}, {"pushOutputInitiative(1)"}},
         {"hdmi2 status", {cmd(0xD0, 0x0C)}, {"<F0000d00c010000dd>"}, {"pushHDMI2Status(1)"}},
         // Type, width, height, fps, interlace flag, check byte.
@@ -138,15 +118,10 @@ QVector<Row> rows()
          {"<F0000f1ba010700b3>", hex("0080071c023200")}, {R"(pushInputFormatInitiative(1,{"DataType":0,"Fps":50,"height":540,"width":1920}))"}},
         {"format the input does not offer", {cmd(0xF0, 0xB3, 0, 0, 0, hex("0080073804190085"))}, {}, {}},
         {"format block without its check byte", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043c0000"))}, {}, {}},
-        {"pip with two pictures", {cmd(0x68, 0xAA, 3, 2)}, {"<F000068aa03020017>"}, {}},
         {"pip second picture of no input", {cmd(0x68, 0xAA, 3, 7)}, {}, {}},
         {"pip audio from UVC 1", {cmd(0xC3, 0x14)}, {"<F0000c314000000d7>"}, {}},
         {"audio source out of range", {cmd(0xC3, 0x09)}, {}, {}},
         {"serial number", {cmd(0xF1, 0x44)}, {"<F0000f144000f0044>", QByteArray("CS2026SIM00001\0", 15)}, {R"(pushSN("CS2026SIM00001"))"}},
-        {"format list uvc 2", {cmd(0xF1, 0xB3, 3)}, {"<F0000f1b3031900c0>", hex("01800738041e" "010005d0021e" "018002e0011e" "028002e0011e" "00")},
-         {R"(pushVideoFormatData(3,25,[{"DataType":1,"Fps":"30","Weights":3029,"height":1080,"width":1920},)"
-          R"({"DataType":1,"Fps":"30","Weights":2029,"height":720,"width":1280},{"DataType":1,"Fps":"30","Weights":1149,"height":480,"width":640},)"
-          R"({"DataType":2,"Fps":"30","Weights":1148,"height":480,"width":640}]))"}},
         {"format list hdmi 2 with 1080i as 540 lines", {cmd(0xF1, 0xB3, 1)},
          {"<F0000f1b3011f00c4>", hex("00800738043c" "008007380432" "0080071c023c" "0080071c0232" "000005d0023c" "00")},
          {R"(pushVideoFormatData(1,31,[{"DataType":0,"Fps":"60i","Weights":3061,"height":1080,"width":1920},)"
@@ -157,11 +132,8 @@ QVector<Row> rows()
         {"current format hdmi 1", {cmd(0xF1, 0xBA, 0)}, {"<F0000f1ba000700b2>", hex("00800738043c00")},
          {R"(pushInputFormatInitiative(0,{"DataType":0,"Fps":60,"height":1080,"width":1920}))"}},
         {"script: unplug hdmi 1", {"@unplug 0"}, {"<F0000d001000000d1>"}, {"pushInputInitiative(0,0)"}},
-        {"script: plug uvc 2", {"@plug 3"}, {"<F0000d001010300d5>"}, {"pushInputInitiative(1,3)"}},
         {"script: unplugged input has no current format", {"@unplug 1", cmd(0xF1, 0xBA, 1)}, {"<F0000f1ba010000ac>"}, {"pushInputFormatInitiative(1,{})"}},
         {"script: usb removed", {"@usb 0"}, {"<F0000d003000000d3>"}, {"pushUSBInitiative(0)"}},
-        {"script: stream 2 on", {"@stream 2 1"}, {"<F0000d004010200d7>"}, {"pushRtmpStatus(2,1)"}},
-        {"script: type-c", {"@typec 0"}, {"<F0000d005000000d5>"}, {"pushTypeCInitiative(0)"}},
         {"script: any report", {"@report d0 08 01 00"}, {"<F0000d008010000d9>"}, {"pushInputClick(1)"}},
         // Frames the device refuses: no answer, nothing applied.
         {"unknown command", {cmd(0x55, 1)}, {}, {}},
@@ -171,7 +143,6 @@ QVector<Row> rows()
         {"bad hex", {"<T0000780g0100007a>"}, {}, {}},
         {"checksum off by one", {"<T000078010100007b>"}, {}, {}},
         {"truncated block not applied", {"<T0000f0b8000300ab>ab", cmd(0xF1, 0xB8, 0)}, {publicGroup[0], publicGroup[1]}, {R"(pushNdiGroupName("public"))"}},
-        {"overlong block not applied", {"<T0000f0b8000300ab>abcd", cmd(0xF1, 0xB8, 0)}, {publicGroup[0], publicGroup[1]}, {R"(pushNdiGroupName("public"))"}},
         {"huge announced length", {"<T0000f0b800ffffa6>abc"}, {}, {}},
     };
 }
@@ -247,31 +218,21 @@ private slots:
         QCOMPARE(last.second, emitted);
     }
 
-    // Camera moves, presets, styles, scopes and the NDI source received
-    // are kept, so the picture and later answers agree with them.
+    // Presets, styles and scopes are kept, so the picture and later answers
+    // agree with them; what the camera or the scopes lack is refused.
     void stateFollowsCommands_data()
     {
         QTest::addColumn<QByteArrayList>("steps");
         QTest::addColumn<QString>("state");
         const QByteArray right = cmd(0xC8, 4, 0, 0, 4), stop = cmd(0xC8, 4, 0, 0, 0);
-        const QByteArray store1 = cmd(0xC8, 4, 0, 3, 1), recall0 = cmd(0xC8, 4, 0, 2, 0), recall1 = cmd(0xC8, 4, 0, 2, 1);
-        QTest::newRow("move held") << QByteArrayList{right} << "moving 4 moved 0 view 0 styles 0,0 scopes ---- ndi -";
-        QTest::newRow("move released") << QByteArrayList{right, stop} << "moving 0 moved 1 view 0 styles 0,0 scopes ---- ndi -";
-        QTest::newRow("unknown move") << QByteArrayList{cmd(0xC8, 4, 0, 0, 9)} << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
-        QTest::newRow("back to the home preset") << QByteArrayList{right, stop, store1, recall0}
-                                                 << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
-        QTest::newRow("stored preset recalled") << QByteArrayList{right, stop, store1, recall0, recall1}
-                                                << "moving 0 moved 1 view 1 styles 0,0 scopes ---- ndi -";
-        QTest::newRow("styles") << QByteArrayList{cmd(0xC8, 0, 0, 1, 1), cmd(0xC8, 0, 1, 2, 1)}
-                                << "moving 0 moved 0 view 0 styles 1,2 scopes ---- ndi -";
-        QTest::newRow("style the camera lacks") << QByteArrayList{cmd(0xC8, 0, 1, 1, 1), cmd(0xC8, 0, 2, 0, 1)}
-                                                << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
+        QTest::newRow("stored preset recalled") << QByteArrayList{right, stop, cmd(0xC8, 4, 0, 3, 1), cmd(0xC8, 4, 0, 2, 0), cmd(0xC8, 4, 0, 2, 1)}
+                                                << "moved 1 view 1 styles 0,0 scopes ----";
+        QTest::newRow("styles") << QByteArrayList{cmd(0xC8, 0, 0, 1, 1), cmd(0xC8, 0, 1, 2, 1)} << "moved 0 view 0 styles 1,2 scopes ----";
+        QTest::newRow("style the camera lacks") << QByteArrayList{cmd(0xC8, 0, 1, 1, 1), cmd(0xC8, 0, 2, 0, 1)} << "moved 0 view 0 styles 0,0 scopes ----";
         QTest::newRow("scopes open and closed") << QByteArrayList{cmd(0xC7, 1, 0, 1, 1), cmd(0xC7, 1, 1, 1, 2), cmd(0xC7, 1, 3, 1, 3), cmd(0xC7, 1, 0, 0, 1)}
-                                                << "moving 0 moved 0 view 0 styles 0,0 scopes -2-3 ndi -";
+                                                << "moved 0 view 0 styles 0,0 scopes -2-3";
         QTest::newRow("scope out of range") << QByteArrayList{cmd(0xC7, 1, 4, 1, 0), cmd(0xC7, 1, 0, 1, 4), cmd(0xC7, 1, 0, 2, 0)}
-                                            << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi -";
-        QTest::newRow("ndi source") << QByteArrayList{cmd(0xF0, 0xBB, 0, 0, 0, "CAM-NORTH (PTZ1)")}
-                                    << "moving 0 moved 0 view 0 styles 0,0 scopes ---- ndi CAM-NORTH (PTZ1)";
+                                            << "moved 0 view 0 styles 0,0 scopes ----";
     }
     void stateFollowsCommands()
     {
@@ -285,11 +246,9 @@ private slots:
         QString scopes;
         for (int i = 0; i < Sim::DeviceState::kScopes; ++i)
             scopes += d.scopeOpen[size_t(i)] ? QString::number(d.scopeCorner[size_t(i)]) : QStringLiteral("-");
-        const QString got = QStringLiteral("moving %1 moved %2 view %3 styles %4,%5 scopes %6 ndi %7")
-                                .arg(d.cameraMove[0]).arg(p.pan || p.tilt || p.zoom ? 1 : 0).arg(d.view[0])
-                                .arg(d.cameraStyle[0]).arg(d.cameraStyle[1]).arg(scopes)
-                                .arg(d.ndiDecoding ? QString::fromLatin1(d.ndiDecodingSource) : QStringLiteral("-"));
-        QCOMPARE(got, state);
+        QCOMPARE(QStringLiteral("moved %1 view %2 styles %3,%4 scopes %5").arg(p.pan || p.tilt || p.zoom ? 1 : 0).arg(d.view[0])
+                     .arg(d.cameraStyle[0]).arg(d.cameraStyle[1]).arg(scopes),
+                 state);
     }
 
     // PIP layouts, sound sources and input formats are kept, and the
@@ -302,7 +261,6 @@ private slots:
         QTest::newRow("corner") << QByteArrayList{cmd(0x78, 0, 1), cmd(0x68, 0xAA, 1, 3)} << "pip 1/3 second - audio 1/15" << "programme picture";
         QTest::newRow("side by side keeps the corner") << QByteArrayList{cmd(0x68, 0xAA, 1, 2), cmd(0x68, 0xAA, 2, 0)}
                                                        << "pip 2/2 second - audio 1/15" << "picture picture";
-        QTest::newRow("two pictures, second none") << QByteArrayList{cmd(0x68, 0xAA, 3, 255)} << "pip 3/0 second - audio 1/15" << "picture black";
         QTest::newRow("two pictures") << QByteArrayList{cmd(0x78, 0, 3), cmd(0x68, 0xAA, 3, 2)} << "pip 3/0 second 2 audio 1/15" << "picture picture";
         QTest::newRow("off remembers the layout") << QByteArrayList{cmd(0x68, 0xAA, 3, 2), cmd(0x68, 0xAA, 0, 2)}
                                                   << "pip 0/0 second 2 audio 1/15" << "programme programme";
