@@ -20,6 +20,7 @@
 #include <vector>
 
 #include <sched.h>
+#include <signal.h>
 #include <sys/ipc.h>
 #include <sys/sem.h>
 #include <sys/shm.h>
@@ -141,12 +142,13 @@ struct UiproGetImageShareData::ReaderState
     std::vector<QImage> pool;
 
     LogGate refusalLog;
-    LogGate removedLog, attachedLog, attachFailedLog;
+    LogGate removedLog, attachedLog, attachFailedLog, abandonedLog;
     qint64 lastSegmentCheckMs = 0;
     bool segmentSuspect = false; // check before the next frame, not a period later
 
     QImage acquire(int width, int height, uint8_t **pixels);
     bool waitReady();
+    void reclaimAbandonedBuffer(int id);
     void release();
     void refuse(const char *why, quint32 width, quint32 height);
     int reopenSet();
@@ -207,6 +209,8 @@ bool UiproGetImageShareData::ReaderState::waitReady()
     if (semtimedop(id, &op, 1, &slice) == 0)
         return true;
     const int err = errno;
+    if (err == EAGAIN)
+        reclaimAbandonedBuffer(id);
     if (err == EAGAIN || err == EINTR)
         return false;
     std::printf("semop error: %s. \n", std::strerror(err));
@@ -222,6 +226,27 @@ bool UiproGetImageShareData::ReaderState::waitReady()
         std::this_thread::sleep_for(std::chrono::milliseconds(kBackoffMs));
     }
     return false;
+}
+
+// A producer killed between taking the buffer and announcing its frame
+// leaves "buffer free" at 0 for good, and the next producer waits for ever
+// (or for a timeout of its own). Only a producer takes that token, so when
+// the process that took it last is gone and no frame is announced, the token
+// is handed back. Checked only while no frame comes.
+void UiproGetImageShareData::ReaderState::reclaimAbandonedBuffer(int id)
+{
+    if (semctl(id, 0, GETVAL) != 0 || semctl(id, 1, GETVAL) != 0)
+        return;
+    const int holder = semctl(id, 0, GETPID);
+    if (holder <= 0 || holder == getpid() || ::kill(holder, 0) == 0 || errno != ESRCH)
+        return;
+    if (semctl(id, 0, SETVAL, 1) != 0)
+        return;
+    if (const quint64 count = abandonedLog.pass())
+        qCWarning(lcPreview).noquote()
+            << QStringLiteral("preview: the producer (pid %1) ended while writing a frame, buffer handed back (%2 times)")
+                   .arg(holder)
+                   .arg(count);
 }
 
 // Opens the set again after it disappeared. Values are set only on a set
