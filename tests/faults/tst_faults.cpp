@@ -19,12 +19,13 @@
 #include <QTcpSocket>
 #include <QtTest>
 
+#include <csignal>
 #include <fcntl.h>
 #include <functional>
 #include <memory>
 #include <sched.h>
-#include <csignal>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -115,12 +116,14 @@ QJsonObject valueSet(int which)
 int settingsForker()
 {
     const QJsonObject sets[2] = {valueSet(1), valueSet(2)};
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that dies takes its writers along
     char line[16];
     while (std::fgets(line, sizeof line, stdin)) {
         const pid_t pid = ::fork();
         if (pid < 0)
             return 1;
         if (pid == 0) {
+            ::prctl(PR_SET_PDEATHSIG, SIGKILL);
             std::printf("started %d\n", int(::getpid()));
             std::fflush(stdout);
             for (unsigned n = 1;; ++n)
@@ -429,10 +432,9 @@ void TstFaults::companionNeverAnswers()
         QTRY_COMPARE(https.requests.size(), 1);
     else
         QTRY_COMPARE(held.size(), 1);
-    QTest::qWait(kTimeoutMs / 2);
-    QVERIFY2(!rtmp.findChildren<QNetworkAccessManager *>().isEmpty(), "given up before the time-out");
+    // Given up once the time-out has passed, not before (Qt's coarse timers may be 5 % early).
     QTRY_VERIFY_WITH_TIMEOUT(rtmp.findChildren<QNetworkAccessManager *>().isEmpty(), kTimeoutMs + 5000);
-    QVERIFY2(clock.elapsed() >= kTimeoutMs - 100, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY2(clock.elapsed() >= kTimeoutMs * 95 / 100, qPrintable(QStringLiteral("given up after %1 ms").arg(clock.elapsed())));
     QCOMPARE(results.count(), 0);
     QCOMPARE(log.count(QStringLiteral("cs.log"), QStringLiteral("Failed: ")), 1);
     QVERIFY2(returnedMs < 500 && worstGap < 500,
