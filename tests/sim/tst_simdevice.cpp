@@ -1,6 +1,7 @@
 // The simulated device without sockets: command frames (and script events)
 // in, the exact report datagrams out, and what the front end's own parser
-// and report dispatcher make of them.
+// and report dispatcher make of them. Answers the end-to-end runs already
+// rely on (switching, streaming, recording, NDI, formats) are not repeated.
 #include "../reports/SignalRecorder.h"
 #include "SimDevice.h"
 #include "SimPicture.h"
@@ -33,43 +34,28 @@ struct Row
 QVector<Row> rows()
 {
     const QByteArray on = summed(QByteArray("\x01\"rtmp://a/b\"", 13)), off = summed(QByteArray("\x00\"rtmp://a/b\"", 13));
-    const QByteArray onTwo = summed(QByteArray("\x01\"rtmp://a,rtmp://b\"", 20)), offTwo = summed(QByteArray("\x00\"rtmp://a,rtmp://b\"", 20));
     const QByteArray speaker = summed(hex("001a7dda710b"));
     const QByteArray publicGroup[] = {"<F0000f1b8000700b0>", QByteArray("public\0", 7)};
     return {
-        {"cut to HDMI 2", {cmd(0x78, 1, 1)}, {"<F000078010100007a>"}, {"pushPGMCutFinish(1)"}},
-        {"init input shows cut and preview", {cmd(0x78, 1, 3), cmd(0x78, 0, 4), cmd(0x78, 2, 0)}, {"<F0000780200030481>"}, {"pushInitInput(3,4)"}},
         {"cut to a missing input", {cmd(0x78, 1, 9)}, {}, {}},
-        {"pip on", {cmd(0x68, 0xAA, 1, 3)}, {"<F000068aa01030016>"}, {}},
         {"usb status", {cmd(0x68, 0xAD)}, {"<F000068ad01000016>"}, {"pushUSBStatus(1)"}},
         {"factory reset", {cmd(0x68, 0x06)}, {"<F000068060100006f>"}, {"pushResetStatus(1)"}},
         {"factory reset restores the inputs", {cmd(0x78, 1, 2), cmd(0x78, 0, 4), cmd(0x68, 0x06), cmd(0x78, 2, 0)}, {"<F000078020000017b>"}, {"pushInitInput(0,1)"}},
         {"power off (no answer)", {cmd(0x68, 0x10)}, {}, {}},
         {"battery level", {cmd(0x68, 0xB0, 1)}, {"<F000068b001500069>"}, {"pushPower(1,80)"}},
-        {"stream 1 on air", {cmd(0xF0, 0xB4, 1, 0, 0, on)}, {"<F0000d004010100d6>"}, {"pushRtmpStatus(1,1)"}},
-        {"stream 1 off", {cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, off)}, {"<F0000d004000100d5>"}, {"pushRtmpStatus(1,0)"}},
         {"stream status after a stop", {cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 3, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, off), cmd(0x68, 0xB5, 0)},
          {"<F000068b508000025>"}, {"pushRtmpStatus(3,1)"}},
         {"stream status with 1 live after 0 stopped", {cmd(0xF0, 0xB4, 0, 0, 0, on), cmd(0xF0, 0xB4, 1, 0, 0, on), cmd(0xF0, 0xB4, 0, 0, 0, off), cmd(0x68, 0xB5, 0)},
          {"<F000068b50200001f>"}, {"pushRtmpStatus(1,1)"}},
-        {"two addresses in one block go live on channels 0 and 1", {cmd(0xF0, 0xB4, 0, 0, 0, onTwo)},
-         {"<F0000d004010000d5>", "<F0000d004010100d6>"}, {"pushRtmpStatus(0,1)", "pushRtmpStatus(1,1)"}},
-        {"and stop on both", {cmd(0xF0, 0xB4, 0, 0, 0, onTwo), cmd(0xF0, 0xB4, 0, 0, 0, offTwo)},
-         {"<F0000d004000000d4>", "<F0000d004000100d5>"}, {"pushRtmpStatus(0,0)", "pushRtmpStatus(1,0)"}},
         {"stream address with a bad check byte", {cmd(0xF0, 0xB4, 0, 0, 0, QByteArray("\x01\"x\"\x00", 5))}, {}, {}},
         {"stream parameters", {cmd(0xF0, 0xB5, 0, 0, 0, summed(hex("01027017")))}, {"<F0000f0b5000500aa>"}, {}},
-        {"software version", {cmd(0x6A, 0)}, {"<F00006a0001080073>"}, {"pushSoftwareVersion(1,8)"}},
-        {"local ip", {cmd(0x89)}, {"<F000089c0a801584a>"}, {R"(pushLocalIP("192.168.1.88"))"}},
         {"type-c", {cmd(0xC1)}, {"<F0000c101000000c2>"}, {"pushTypeCStatus(1)"}},
-        {"record start", {cmd(0xC2, 1, 1)}, {"<F0000c201030100c7>"}, {"pushRecordingStatus(1)"}},
-        {"record stop", {cmd(0xC2, 1, 1), cmd(0xC2, 1, 2)}, {"<F0000c201030000c6>"}, {"pushRecordingStatus(0)"}},
         {"no recording without the disk", {"@usb 0", cmd(0xC2, 1, 1)}, {"<F0000c201030000c6>"}, {"pushRecordingStatus(0)"}},
         {"record name", {cmd(0xF0, 0xBC, 0, 0, 0, "show1")}, {"<F0000f0bc000000ac>"}, {}},
         {"record file name keeps harmless characters", {cmd(0xF0, 0xBC, 0, 0, 0, "../../etc/passwd;rm"), cmd(0xC2, 1, 1), cmd(0xF1, 0x45)},
          {"<F0000f145001c0052>", QByteArray("/media/usb0/etcpasswdrm.mp4", 28)},
          {R"(pushRecordFileName("/media/usb0/etcpasswdrm.mp4","etcpasswdrm"))"}},
         {"record file name cleared", {cmd(0xC2, 1, 1), cmd(0xC2, 3), cmd(0xF1, 0x45)}, {"<F0000f14500000036>"}, {R"(pushRecordFileName("",""))"}},
-        {"audio channel", {cmd(0xC3, 2)}, {"<F0000c302000000c5>"}, {}},
         {"bluetooth on", {cmd(0xC5, 1)}, {"<F0000c501000000c6>"}, {}},
         {"bluetooth off empties the list", {cmd(0xC5, 0), cmd(0xF1, 0xB4, 0)}, {"<F0000f1b4000100a6>", hex("00")}, {}},
         {"bluetooth broadcast search", {cmd(0xC5, 4)}, {"<F0000c505000000ca>"}, {"pushBluetoothFinBroadCast()"}},
@@ -78,14 +64,10 @@ QVector<Row> rows()
         {"bluetooth list shows the connected device", {cmd(0xF0, 0xB6, 0, 0, 0, speaker), cmd(0xF1, 0xB4, 0)},
          {"<F0000f1b4002900ce>", hex("02" "01001a7dda710b0a") + "CS Speaker" + hex("00a4c138059e210e") + "Studio Headset"},
          {R"(pushBluetoothDevInfo(1,"0-1a-7d-da-71-b","CS Speaker"))", R"(pushBluetoothDevInfo(0,"a4-c1-38-5-9e-21","Studio Headset"))"}},
-        {"bluetooth companion devices", {cmd(0xF1, 0xB4, 1)}, {"<F0000f1b4011700bd>", hex("01" "005cf938123456" "0e") + "Director Phone"},
-         {R"(pushBluetoothDevInfoBroadCast(0,"5c-f9-38-12-34-56","Director Phone"))"}},
         {"ndi switch read", {cmd(0xC6, 0, 1), cmd(0xC6, 1)}, {"<F0000c601010000c8>"}, {"pushNdiStatus(1)"}},
         {"ndi data type set", {cmd(0xC6, 2, 3, 4)}, {"<F0000c603030400d0>"}, {"pushNdiDataType(3,4)"}},
         {"ndi decoding switch", {cmd(0xC6, 8, 1)}, {"<F0000c608010000cf>"}, {"pushNDIDecodingStatus(1)"}},
         {"ndi menu switch (no answer)", {cmd(0xC6, 4, 1)}, {}, {}},
-        {"ndi group name read back", {cmd(0xF0, 0xB8, 0, 0, 0, "Studio A"), cmd(0xF1, 0xB8, 0)},
-         {"<F0000f1b8000900b2>", QByteArray("Studio A\0", 9)}, {R"(pushNdiGroupName("Studio A"))"}},
         {"ndi device name read back, Latin-1", {cmd(0xF0, 0xB8, 2, 0, 0, "Cam\xe9ra"), cmd(0xF1, 0xB8, 2)},
          {"<F0000f1b8020700b2>", QByteArray("Cam\xe9ra\0", 7)}, {"pushNdiDeviceName(\"Cam\u00e9ra\")"}},
         {"ndi name of 256 bytes refused", {cmd(0xF0, 0xB8, 0, 0, 0, QByteArray(256, 'n')), cmd(0xF1, 0xB8, 0)},
@@ -96,41 +78,21 @@ QVector<Row> rows()
           R"("netmask4":0,"ttlValue":4,"type":2}))"}},
         {"ndi base information", {cmd(0xF1, 0xB8, 4)}, {"<F0000f1b8040a00b7>", hex("800738043c3c401f80bb")},
          {R"(pushNdiBaseInfo("1920x1080@60",60,8000,48000))"}},
-        {"ndi decoding source starts receiving", {cmd(0xF0, 0xBB, 0, 0, 0, "CAM")}, {"<F0000f0bb000000ab>", "<F0000c608010000cf>"},
-         {"pushNDIDecodingStatus(1)"}},
         {"ndi decoding source without a name", {cmd(0xF0, 0xBB)}, {}, {}},
-        {"ndi sources", {cmd(0xF1, 0xBB)},
-         {"<F0000f1bb00680014>", "\x03STUDIO-PC (OBS),192.168.1.20:5961;CAM-NORTH (PTZ1),192.168.1.31:5961;TABLET (Slides),192.168.1.45:5962;"},
-         {R"#(pushNDISignalData(104,[{"addr":"192.168.1.20:5961","name":"STUDIO-PC (OBS)"},)#"
-          R"#({"addr":"192.168.1.31:5961","name":"CAM-NORTH (PTZ1)"},{"addr":"192.168.1.45:5962","name":"TABLET (Slides)"}]))#"}},
         {"ptz support uvc 1", {cmd(0xC8, 3, 0)}, {"<F0000c803000f00da>"}, {"pushPTZStatus(1,1,1,1)"}},
         {"auto focus off", {cmd(0xC8, 4, 1, 1, 0)}, {"<F0000c804010100ce>"}, {"pushPTZAutoFocus(0)"}},
         {"view read", {cmd(0xC8, 4, 1, 2, 5), cmd(0xC8, 5, 1, 2)}, {"<F0000c805010205d5>"}, {"pushPTZView(5)"}},
-        {"preset stored, the camera is at it", {cmd(0xC8, 4, 0, 3, 2)}, {"<F0000c804000202d0>"}, {"pushPTZView(2)"}},
         {"preset out of range", {cmd(0xC8, 4, 0, 2, 9)}, {}, {}},
-        {"scope (no answer)", {cmd(0xC7, 1, 3, 1, 2)}, {}, {}},
         {"sampling rate set", {cmd(0xC9, 0, 1, 2, 3)}, {"<F0000c901010203d0>"}, {"pushAudioSamplingRate(2,3)"}},
-        {"output status", {cmd(0xD0, 7, 0)}, {"<F0000d007010000d8>"}, {"pushOutputInitiative(1)"}},
         {"hdmi2 status", {cmd(0xD0, 0x0C)}, {"<F0000d00c010000dd>"}, {"pushHDMI2Status(1)"}},
         // Type, width, height, fps, interlace flag, check byte.
         {"set input format", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043c00ff"))}, {"<F0000f0b3010000a4>"}, {}},
-        {"set interlaced format, read back as 540 lines", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043201f6")), cmd(0xF1, 0xBA, 1)},
-         {"<F0000f1ba010700b3>", hex("0080071c023200")}, {R"(pushInputFormatInitiative(1,{"DataType":0,"Fps":50,"height":540,"width":1920}))"}},
         {"format the input does not offer", {cmd(0xF0, 0xB3, 0, 0, 0, hex("0080073804190085"))}, {}, {}},
         {"format block without its check byte", {cmd(0xF0, 0xB3, 1, 0, 0, hex("00800738043c0000"))}, {}, {}},
         {"pip second picture of no input", {cmd(0x68, 0xAA, 3, 7)}, {}, {}},
-        {"pip audio from UVC 1", {cmd(0xC3, 0x14)}, {"<F0000c314000000d7>"}, {}},
         {"audio source out of range", {cmd(0xC3, 0x09)}, {}, {}},
-        {"serial number", {cmd(0xF1, 0x44)}, {"<F0000f144000f0044>", QByteArray("CS2026SIM00001\0", 15)}, {R"(pushSN("CS2026SIM00001"))"}},
-        {"format list hdmi 2 with 1080i as 540 lines", {cmd(0xF1, 0xB3, 1)},
-         {"<F0000f1b3011f00c4>", hex("00800738043c" "008007380432" "0080071c023c" "0080071c0232" "000005d0023c" "00")},
-         {R"(pushVideoFormatData(1,31,[{"DataType":0,"Fps":"60i","Weights":3061,"height":1080,"width":1920},)"
-          R"({"DataType":0,"Fps":"60","Weights":3060,"height":1080,"width":1920},{"DataType":0,"Fps":"50i","Weights":3051,"height":1080,"width":1920},)"
-          R"({"DataType":0,"Fps":"50","Weights":3050,"height":1080,"width":1920},{"DataType":0,"Fps":"60","Weights":2060,"height":720,"width":1280}]))"}},
         {"format list of input 5", {cmd(0xF1, 0xB3, 5)}, {}, {}},
         {"uvc 2 styles", {cmd(0xF1, 0xB9, 1)}, {"<F0000f1b9010300ae>", hex("000200")}, {"pushStyleStatus([0,2])"}},
-        {"current format hdmi 1", {cmd(0xF1, 0xBA, 0)}, {"<F0000f1ba000700b2>", hex("00800738043c00")},
-         {R"(pushInputFormatInitiative(0,{"DataType":0,"Fps":60,"height":1080,"width":1920}))"}},
         {"script: unplug hdmi 1", {"@unplug 0"}, {"<F0000d001000000d1>"}, {"pushInputInitiative(0,0)"}},
         {"script: unplugged input has no current format", {"@unplug 1", cmd(0xF1, 0xBA, 1)}, {"<F0000f1ba010000ac>"}, {"pushInputFormatInitiative(1,{})"}},
         {"script: usb removed", {"@usb 0"}, {"<F0000d003000000d3>"}, {"pushUSBInitiative(0)"}},
@@ -346,6 +308,9 @@ private slots:
             for (const QByteArray &s : r.steps)
                 if (s.startsWith("<T"))
                     seeds << s;
+        // Commands whose answers only the end-to-end runs check are mutated too.
+        seeds << cmd(0x6A, 0) << cmd(0x89) << cmd(0xF1, 0x44) << cmd(0xF1, 0xBB) << cmd(0xD0, 7, 0) << cmd(0xC7, 1, 3, 1, 2)
+              << cmd(0xF0, 0xB4, 0, 0, 0, summed(QByteArray("\x01\"rtmp://a,rtmp://b\"", 20)));
         QRandomGenerator rng(20261122);
         Sim::Device device;
         int answered = 0;
