@@ -13,7 +13,6 @@
 #include <QTemporaryDir>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <functional>
 
