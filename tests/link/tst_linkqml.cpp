@@ -16,8 +16,6 @@ private slots:
     {
         QTest::addColumn<QString>("expression");
         QTest::addColumn<QList<QByteArray>>("expected");
-        QTest::newRow("uchar and bool from JS") << "proc.connectSwitchVideo(2, true)"
-                                                << QList<QByteArray>{"<T000078010200007b>"};
         QTest::newRow("selector overload without argument") << "proc.connectGetInputCurrentFormat()"
             << QList<QByteArray>{"<T0000f1ba000000ab>", "<T0000f1ba010000ac>", "<T0000f1ba020000ad>", "<T0000f1ba030000ae>"};
         QTest::newRow("stream on air without isSend")

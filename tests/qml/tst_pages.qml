@@ -12,7 +12,6 @@ Item {
 
     FakeBoardStore { id: fake }
     FakeSystemStore { id: system }
-    Component { id: languagePage; LanguagePage { width: root.width } }
     Component { id: aboutPage; AboutPage { width: root.width } }
     Component { id: dateTimePage; DateTimePage { width: root.width } }
     Component { id: displayPage; DisplayPage { width: root.width } }
@@ -176,21 +175,6 @@ TestCase {
         mouseClick(findChild(page.confirm, data.answer))
         compare(fake.calls, data.calls)
         verify(!page.confirm.visible)
-    }
-
-    function test_languageButton_data() {
-        return [{ tag: "Chinese", code: 0 }, { tag: "English again", code: 1 }]
-    }
-    function test_languageButton(data) {
-        system.language = data.code === 1 ? 2 : 1
-        var page = open(languagePage, system)
-        mouseClick(findChild(page, "language" + data.code))
-        compare(system.calls, ["setLanguage " + data.code])
-        for (var code = 0; code < 3; ++code) {
-            var button = findChild(page, "language" + code)
-            compare(button.checked, code === data.code, "button " + code)
-            compare(button.detail, code === data.code ? qsTranslate("LanguagePage", "In use") : "")
-        }
     }
 
     function test_aboutShowsTheDevice_data() {
