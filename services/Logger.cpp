@@ -4,49 +4,9 @@
 #include "Platform.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTextStream>
 
 #include <algorithm>
-
-namespace {
-
-// A log folder that refuses the file (read-only or full storage) is said
-// once on the console, not once per line; the file is tried again at most
-// once a second, so the log resumes when the folder becomes writable.
-constexpr qint64 kRetryIntervalMs = 1000;
-
-// The logger is one per process: its file trouble lives here, guarded by
-// the logger's mutex.
-struct FileTrouble
-{
-    bool failing = false;
-    QElapsedTimer sinceTry;
-};
-FileTrouble g_trouble;
-
-void reportTrouble(const QFile &file, const char *what)
-{
-    g_trouble.sinceTry.start();
-    if (g_trouble.failing)
-        return;
-    g_trouble.failing = true;
-    qCWarning(lcLog).noquote() << QStringLiteral("log file %1 cannot be written (%2 failed: %3); lines reach the console only until it can")
-                                      .arg(file.fileName(), QLatin1String(what), file.errorString());
-}
-
-// Opens the chosen file for appending; bytes receives its size.
-bool openLogFile(QFile &file, qint64 &bytes)
-{
-    if (!file.open(QIODevice::Append | QIODevice::Text)) {
-        reportTrouble(file, "open");
-        return false;
-    }
-    bytes = file.size();
-    return true;
-}
-
-} // namespace
 
 Logger &Logger::instance()
 {
@@ -78,7 +38,6 @@ void Logger::closeFile()
     QMutexLocker lock(&m_mutex);
     if (m_file.isOpen())
         m_file.close();
-    g_trouble.failing = false; // closed on purpose: not to be reopened
 }
 
 void Logger::close()
@@ -89,7 +48,6 @@ void Logger::close()
     m_chosen = false;
     m_fileName = QStringLiteral("0");
     m_fileBytes = 0;
-    g_trouble.failing = false;
 }
 
 void Logger::reset()
@@ -131,7 +89,8 @@ void Logger::chooseFile()
     }
     m_chosen = true;
     m_file.setFileName(dirPath + m_fileName + QStringLiteral(".CSLOG"));
-    openLogFile(m_file, m_fileBytes);
+    if (m_file.open(QIODevice::Append | QIODevice::Text))
+        m_fileBytes = m_file.size();
 }
 
 void Logger::flushEarlyLines()
@@ -147,11 +106,8 @@ void Logger::flushEarlyLines()
 void Logger::emitLine(const QDateTime &time, const QString &text)
 {
     qCDebug(lcLog).noquote() << text;
-    if (!m_file.isOpen()) {
-        // Closed at the size cap or at exit it stays closed.
-        if (!g_trouble.failing || g_trouble.sinceTry.elapsed() < kRetryIntervalMs || !openLogFile(m_file, m_fileBytes))
-            return;
-    }
+    if (!m_file.isOpen())
+        return;
     const QByteArray stamp = time.toString(QStringLiteral("yyyy-MM-dd-hh-mm-ss")).toUtf8() + ": ";
     const QByteArray line = stamp + text.toUtf8() + '\n';
     if (m_fileBytes + line.size() > m_fileCap) {
@@ -161,18 +117,9 @@ void Logger::emitLine(const QDateTime &time, const QString &text)
         m_file.close();
         return;
     }
-    if (m_file.write(line) != line.size() || !m_file.flush()) {
-        reportTrouble(m_file, "write");
-        m_file.close();
-        return;
-    }
+    m_file.write(line);
+    m_file.flush();
     m_fileBytes += line.size();
-    // Said after a line really got through: a full disk that still lets the
-    // file open must not make the log flap between the two messages.
-    if (g_trouble.failing) {
-        g_trouble.failing = false;
-        qCWarning(lcLog).noquote() << QStringLiteral("log file %1 is written again").arg(m_file.fileName());
-    }
 }
 
 void Logger::write(const QString &text)

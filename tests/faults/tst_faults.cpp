@@ -266,17 +266,14 @@ void TstFaults::logFolderReadOnly()
         writeLog(QStringLiteral("line %1").arg(i));
     QVERIFY2(clock.elapsed() < 5000, "logging stalled on the read-only folder");
     QCOMPARE(log.count(QStringLiteral("cs.log"), QStringLiteral("line ")), 300); // the console still gets every line
-    QCOMPARE(log.count(QStringLiteral("cs.log"), QStringLiteral("cannot be written")), 1);
     QVERIFY(QDir(QString::fromLocal8Bit(dir)).entryList(QDir::Files).isEmpty());
 
+    // The run's file is lost, as on the device: a folder that becomes
+    // writable later does not bring it back (nothing is retried).
     QCOMPARE(::umount2(dir.constData(), 0), 0);
-    int n = 0;
-    QTRY_VERIFY_WITH_TIMEOUT((writeLog(QStringLiteral("again %1").arg(++n)),
-                              TestSysroot::readFile(logger.currentFile()).contains("again")),
-                             5000);
     writeLog(QStringLiteral("and on"));
-    QVERIFY(TestSysroot::readFile(logger.currentFile()).contains(": and on\n"));
-    QCOMPARE(log.count(QStringLiteral("cs.log"), QStringLiteral("cannot be written")), 1);
+    QCOMPARE(log.count(QStringLiteral("cs.log"), QStringLiteral("and on")), 1);
+    QVERIFY(QDir(QString::fromLocal8Bit(dir)).entryList(QDir::Files).isEmpty());
 }
 
 void TstFaults::usbDiskGoneDuringListing_data()
