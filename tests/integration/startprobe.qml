@@ -29,7 +29,8 @@ Item {
             var answered = ["about_software", "about_system", "about_address"].every(function (n) { return /\d\.\d/.test(value(n)) })
                            && value("about_serial") === "CS2026SIM00001" && ffmpeg() !== "FFmpeg "
             if ((host.current !== "about" && ticks >= 8) || answered || ticks > 60) {
-                console.log("PROBE page=" + host.current + " visible=" + host.visible + " title=" + probe.find(host, "pageTitle").text)
+                var title = probe.find(host, "pageTitle") // made with the first page
+                console.log("PROBE page=" + host.current + " visible=" + host.visible + " title=" + (title ? title.text : ""))
                 console.log("PROBE about software=" + value("about_software") + " system=" + value("about_system")
                             + " serial=" + value("about_serial") + " address=" + value("about_address"))
                 console.log("PROBE about library=" + ffmpeg())

@@ -4,57 +4,11 @@
 
 #include <QProcess>
 #include <QRegularExpression>
-#include <QUdpSocket>
 #include <QtTest>
-
-#include <sys/ipc.h>
-#include <sys/sem.h>
-#include <sys/shm.h>
-
-namespace {
-struct Keys
-{
-    int preview, sem, audio;
-};
-
-void removeIpc(const Keys &k)
-{
-    int id = shmget(k.preview, 0, 0);
-    if (id >= 0) shmctl(id, IPC_RMID, nullptr);
-    id = shmget(k.audio, 0, 0);
-    if (id >= 0) shmctl(id, IPC_RMID, nullptr);
-    id = semget(k.sem, 0, 0);
-    if (id >= 0) semctl(id, 0, IPC_RMID);
-}
-} // namespace
 
 class TstIntegration : public QObject
 {
     Q_OBJECT
-private:
-    QProcessEnvironment environment(const TestSysroot &root, quint16 media, quint16 listen, const Keys &k)
-    {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("CS_SYSROOT"), root.root());
-        env.insert(QStringLiteral("CS_MEDIA_PORT"), QString::number(media));
-        env.insert(QStringLiteral("CS_LISTEN_PORT"), QString::number(listen));
-        env.insert(QStringLiteral("CS_PREVIEW_SHM_KEY"), QString::number(k.preview));
-        env.insert(QStringLiteral("CS_PREVIEW_SEM_KEY"), QString::number(k.sem));
-        env.insert(QStringLiteral("CS_AUDIO_SHM_KEY"), QString::number(k.audio));
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
-        return env;
-    }
-    static bool startSim(QProcess &sim, const QProcessEnvironment &env, int seconds)
-    {
-        sim.setProcessEnvironment(env);
-        sim.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        sim.start(QStringLiteral(CS_BINARY_DIR "/sim/cs-mediasim"),
-                  {QStringLiteral("--size"), QStringLiteral("640x360"), QStringLiteral("--fps"), QStringLiteral("30"),
-                   QStringLiteral("--seconds"), QString::number(seconds)});
-        return sim.waitForStarted(5000);
-    }
-
 private slots:
     void switchSeePreviewAndLevels_data()
     {
@@ -66,41 +20,21 @@ private slots:
     {
         QFETCH(bool, restartSimulator);
         TestSysroot root(true);
-        const int base = 0x6c000000 + (QCoreApplication::applicationPid() % 0x7fff) * 8 + (restartSimulator ? 4 : 0);
-        const Keys keys{base, base + 1, base + 2};
-        const quint16 media = AppRun::freeUdpPort();
-        const quint16 listen = AppRun::freeUdpPort();
-        const QProcessEnvironment env = environment(root, media, listen, keys);
-
-        QProcess sim;
-        QVERIFY(startSim(sim, env, 60));
-
-        QProcess app;
-        QProcessEnvironment appEnv = env;
-        appEnv.insert(QStringLiteral("CS_MAIN_QML"), QStringLiteral(CS_SOURCE_DIR "/tests/integration/probe.qml"));
-        app.setProcessEnvironment(appEnv);
-        app.setProcessChannelMode(QProcess::MergedChannels);
-        app.start(QStringLiteral(CS_BINARY_DIR "/CSFrontEnd"),
-                  {restartSimulator ? QStringLiteral("probe-seconds=9") : QStringLiteral("probe-seconds=0")});
-        QVERIFY(app.waitForStarted(5000));
-
-        QProcess sim2;
+        AppRun run(root, 0x6c000000 + (restartSimulator ? 4 : 0));
+        const QStringList options{"--size", "640x360", "--fps", "30", "--seconds"};
+        // Restarted: the first simulator ends on its own about 2 s in, and
+        // another takes over about a second later while the application runs.
+        QVERIFY(run.startSimulator(options + QStringList{restartSimulator ? "2" : "60"}));
+        QProcess next;
         if (restartSimulator) {
-            QTest::qWait(1500);
-            sim.terminate();
-            QVERIFY(sim.waitForFinished(5000));
-            QVERIFY(app.state() == QProcess::Running); // the application keeps running
-            QTest::qWait(500);
-            QVERIFY(startSim(sim2, env, 60));
+            next.setProcessEnvironment(run.env);
+            next.start(QStringLiteral("/bin/sh"), QStringList{"-c", "sleep 3; exec \"$0\" \"$@\"", CS_BINARY_DIR "/sim/cs-mediasim"} + options + QStringList{"60"});
+            QVERIFY(next.waitForStarted(5000));
         }
-
-        QVERIFY(app.waitForFinished(60000));
-        const QString out = QString::fromLocal8Bit(app.readAll());
-        sim.terminate();
-        sim.waitForFinished(5000);
-        sim2.terminate();
-        sim2.waitForFinished(5000);
-        removeIpc(keys);
+        const QString out = run.runApp(QStringLiteral("integration/probe.qml"), 60000,
+                                       {restartSimulator ? QStringLiteral("probe-seconds=9") : QStringLiteral("probe-seconds=0")});
+        next.terminate();
+        next.waitForFinished(5000);
 
         QVERIFY2(out.contains(QStringLiteral("PROBE cut 2")), qPrintable(out.right(3000)));
         QVERIFY2(out.contains(QStringLiteral("PROBE frame 640x360")), qPrintable(out.right(3000)));
