@@ -34,7 +34,6 @@ private slots:
         // PIP of NDI top-right: 213x120 at (407, 20) in a 640x360 frame.
         QTest::newRow("PIP shows its source") << 0 << true << 1 << QPoint(513, 80) << 0x7f7f7fu;
         QTest::newRow("PIP has a white border") << 0 << true << 1 << QPoint(406, 60) << 0xffffffu;
-        QTest::newRow("PIP bottom-left") << 0 << true << 2 << QPoint(20 + 106, 220 + 60) << 0x7f7f7fu;
     }
     void frameContent()
     {
