@@ -123,6 +123,12 @@ bool replaceAtomically(const QString &source, const QString &target)
     if (!out.open(QIODevice::WriteOnly))
         return false;
     char buf[16384];
+    // A UTF-8 byte-order mark (Windows editors write one) is not copied:
+    // QSettings then silently drops the first save into the file.
+    if (in.peek(3) == QByteArray("\xef\xbb\xbf")) {
+        in.skip(3);
+        writeLog(QStringLiteral("%1: UTF-8 byte-order mark dropped").arg(source));
+    }
     for (;;) {
         const qint64 n = in.read(buf, sizeof buf);
         if (n < 0) {

@@ -17,6 +17,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 
 namespace {
 
@@ -49,7 +50,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     FUZZ_REQUIRE(writeFile(dropped, parts.value(0)));
     SettingsStore::importFromUserdata();
     FUZZ_REQUIRE(!QFileInfo::exists(dropped));
-    FUZZ_REQUIRE(readFile(active) == parts.value(0));
+    // (Without a UTF-8 byte-order mark, which would cost the next save.)
+    const QByteArray bom("\xef\xbb\xbf");
+    FUZZ_REQUIRE(readFile(active) == (parts.value(0).startsWith(bom) ? parts.value(0).mid(3) : parts.value(0)));
     FUZZ_REQUIRE(!SettingsStore::ensureFile());
 
     // Whatever the file holds, only the known keys come out, each typed.
@@ -81,6 +84,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     SettingsStore::write(all);
     QJsonObject back;
     SettingsStore::read(back);
+    for (auto it = all.begin(); it != all.end(); ++it) {
+        if (back.value(it.key()) != it.value())
+            std::fprintf(stderr, "%s: wrote %s, read %s\n", qPrintable(it.key()),
+                         qPrintable(it.value().toVariant().toString()), qPrintable(back.value(it.key()).toVariant().toString()));
+    }
     FUZZ_REQUIRE(back == all);
 
     // A missing file is made from the factory settings.

@@ -9,6 +9,7 @@ factory=open(os.path.join(here,'..','..','config','CS_Config.ini'),'rb').read()
 seeds={
  'factory_file': factory+b'\x001\x00-1\x001920x1080@60\x00rtmp://live.example/app/key',
  'empty_file': b'\x000\x00Current',
+ 'bom_only': b'\xef\xbb\xbf[setting]\nlanguage=1\n\x00x',
  'other_group': b'[network]\nip=10.0.0.2\n[setting]\nfans=abc\nversion=2.0\n\x0042',
  'bom_crlf': b'\xef\xbb\xbf[setting]\r\nlanguage=1\r\neventName="Show, day 1"\r\n\x00\xe4\xb8\xad\xe6\x96\x87\x00 spaced ',
  'variant_values': b'[setting]\nrtmpAddr=@Variant(\\0\\0\\0\\x7f\\0\\0\\0\\x12QByteArray)\neventName=a;b\nfans=1,2\n\x00@at\x00a=b\x00;x',
