@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Window 2.15
+import QtQml 2.15
 import "Public"
 import "CSQML"
 
@@ -78,7 +79,8 @@ Window {
         width: mainView.portrait ? parent.width : Math.min(parent.width, 1280)
         z: 50
         source: "CONTROLS/Keyboard.qml"
-        Binding { target: keyboard.item; property: "german"; value: system.language === 2; when: keyboard.item !== null }
+        // A language switch re-evaluates every binding; the layout keeps its value until the new one arrives.
+        Binding { target: keyboard.item; property: "german"; value: system.language === 2; when: keyboard.item !== null; restoreMode: Binding.RestoreNone }
         // The input method reports itself visible only once this panel
         // exists, so the panel is made when a text field first takes focus.
         Connections {
