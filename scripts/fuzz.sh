@@ -67,11 +67,12 @@ for a in $areas; do
   rc=$?
   set -e
   took=$(( $(date +%s) - start ))
-  runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$work/log" | tail -1)
-  speed=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$work/log" | tail -1)
-  last=$(grep -E '^#[0-9]+' "$work/log" | grep ' cov: ' | tail -1)
-  cov=$(echo "$last" | sed -n 's/.* cov: \([0-9]*\).*/\1/p')
-  ft=$(echo "$last" | sed -n 's/.* ft: \([0-9]*\).*/\1/p')
+  # Byte-wise: libFuzzer's status lines may quote any bytes of an input.
+  runs=$(LC_ALL=C sed -n 's/^stat::number_of_executed_units: *//p' "$work/log" | tail -1)
+  speed=$(LC_ALL=C sed -n 's/^stat::average_exec_per_sec: *//p' "$work/log" | tail -1)
+  last=$(LC_ALL=C grep -aE '^#[0-9]+.* cov: ' "$work/log" | tail -1)
+  cov=$(echo "$last" | LC_ALL=C awk '{ for (i = 1; i < NF; ++i) if ($i == "cov:") { print $(i + 1); exit } }')
+  ft=$(echo "$last" | LC_ALL=C awk '{ for (i = 1; i < NF; ++i) if ($i == "ft:") { print $(i + 1); exit } }')
   if [ $rc -eq 0 ]; then
     result=ok
   else

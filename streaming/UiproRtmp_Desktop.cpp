@@ -9,6 +9,8 @@
 #include <QJsonValue>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace {
 
 // A fresh INI reader/writer per operation, UTF-8 before any access; the
@@ -93,6 +95,11 @@ void UiproRtmp_Desktop::getAllEventInfo()
 {
     EventFile f;
     QStringList groups = f.s.childGroups();
+    // A foreign file may hold a section no event call can reach (such as
+    // "[]"): listing it would show an event that cannot be opened or deleted.
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                                [](const QString &g) { return !usableEventName(g, "getAllEventInfo"); }),
+                 groups.end());
     writeLog(QStringLiteral("group=") + groups.join(QStringLiteral(", ")));
     // Equal start times keep their listed order; times are reread at every
     // comparison (a handful of events).

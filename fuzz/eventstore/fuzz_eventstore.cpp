@@ -15,6 +15,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 
 namespace {
 
@@ -77,6 +78,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         for (int j = 0; j < i; ++j)
             FUZZ_REQUIRE(events.at(j).name != events.at(i).name);
         const QJsonObject one = rtmp.getOneEventInfoByName(events.at(i).name);
+        if (one.value(QStringLiteral("startTime")).toDouble() != double(events.at(i).start))
+            std::fprintf(stderr, "event \"%s\": listed at %lld, read alone %.0f\n", qPrintable(events.at(i).name),
+                         events.at(i).start, one.value(QStringLiteral("startTime")).toDouble());
         FUZZ_REQUIRE(one.value(QStringLiteral("eventName")).toString() == events.at(i).name);
         FUZZ_REQUIRE(one.value(QStringLiteral("startTime")).toDouble() == double(events.at(i).start));
     }

@@ -65,7 +65,9 @@ void checkImport(UiproRtmp_Desktop &rtmp, bool (UiproRtmp_Desktop::*import)(), c
     QObject::disconnect(c);
 
     FUZZ_REQUIRE(urls.size() <= UiproRtmp_Desktop::kMaxImportUrls);
-    const QString text = QString::fromUtf8(file.left(int(UiproRtmp_Desktop::kMaxImportBytes)));
+    // With its size: QString::fromUtf8(QByteArray) would end at a NUL.
+    const QByteArray head = file.left(int(UiproRtmp_Desktop::kMaxImportBytes));
+    const QString text = QString::fromUtf8(head.constData(), head.size());
     for (int i = 0; i < urls.size(); ++i) {
         const QString &url = urls.at(i);
         FUZZ_REQUIRE(!url.isEmpty() && url.size() <= UiproRtmp_Desktop::kMaxUrlChars);
