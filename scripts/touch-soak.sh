@@ -230,6 +230,9 @@ printf '%s\n' $rss_samples | awk -F: -v slack="$rss_slack_kib" '
     { t[NR] = $1; k[NR] = $2; if ($2 > max) max = $2; if (!at2 && $1 >= 120) at2 = $2 }
     END {
         printf "RSS MiB: first %.1f, minute 2 %.1f, last %.1f, max %.1f (%d samples)\n", k[1] / 1024, at2 / 1024, k[NR] / 1024, max / 1024, NR
+        printf "RSS samples (s:MiB):"
+        for (i = 1; i <= NR; i++) printf " %d:%.1f", t[i], k[i] / 1024
+        printf "\n"
         printf "RSS growth from minute 2: %+.1f MiB (limit %+.1f)\n", (k[NR] - at2) / 1024, slack / 1024
         exit (k[NR] - at2 > slack) ? 1 : 0
     }' || fail "RSS grew more than $((rss_slack_kib / 1024)) MiB after minute 2"
