@@ -67,7 +67,9 @@ bool UiproRtmp_Desktop::importUrlFile(const QString &path, const QString &logPre
 {
     writeLog(logPrefix + path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    // Not in text mode: that drops every CR, so a line with a stray CR in
+    // it would be offered as one URL made of two. Line ends are trimmed below.
+    if (!file.open(QIODevice::ReadOnly))
         return false;
     // Only the head of an oversized file is read; a line cut at the limit
     // is dropped rather than offered half.
