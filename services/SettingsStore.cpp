@@ -99,7 +99,10 @@ void change(const std::function<void(QSettings &)> &edit)
         Ini ini(copy);
         edit(ini.s);
         ini.s.sync();
-        if (ini.s.status() != QSettings::NoError)
+        // A format error is about the old content (bytes that are not
+        // UTF-8, say): the copy is still written, with what could be read
+        // and this change. Refusing it would refuse every later save too.
+        if (ini.s.status() == QSettings::AccessError)
             return saveFailed(QStringLiteral("cannot write ") + copy);
     }
     if (::rename(QFile::encodeName(copy).constData(), QFile::encodeName(target).constData()) != 0)
