@@ -16,7 +16,7 @@ Logger &Logger::instance()
 
 void Logger::setSwitch(int value)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     m_switch = value;
     if (m_switchKnown)
         return;
@@ -29,20 +29,20 @@ void Logger::setSwitch(int value)
 
 int Logger::logSwitch() const
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     return m_switch;
 }
 
 void Logger::closeFile()
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (m_file.isOpen())
         m_file.close();
 }
 
 void Logger::close()
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (m_file.isOpen())
         m_file.close();
     m_chosen = false;
@@ -53,7 +53,7 @@ void Logger::close()
 void Logger::reset()
 {
     close();
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     m_switch = 0;
     m_switchKnown = false;
     m_fileCap = kFileCap;
@@ -63,13 +63,13 @@ void Logger::reset()
 
 void Logger::setFileCap(qint64 bytes)
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     m_fileCap = bytes;
 }
 
 QString Logger::currentFile() const
 {
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     return m_chosen ? m_file.fileName() : QString();
 }
 
@@ -126,7 +126,7 @@ void Logger::write(const QString &text)
 {
     if (text.isEmpty())
         return;
-    QMutexLocker lock(&m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     const QString dirPath = Platform::path(QStringLiteral("/CSLog/"));
     if (!QDir(dirPath).exists())
         QDir().mkpath(dirPath);

@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QList>
-#include <QMutex>
+#include <mutex>
 #include <QString>
 
 class Logger
@@ -48,7 +48,7 @@ private:
     void emitLine(const QDateTime &time, const QString &text);
     void flushEarlyLines();
 
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex; // std::mutex, so ThreadSanitizer sees the guard
     int m_switch = 0;
     bool m_switchKnown = false;
     bool m_chosen = false;

@@ -1,5 +1,6 @@
 // The companion link over a pseudo-terminal standing in for /dev/rfcomm0:
 // the test holds the master side and plays the phone.
+#include "LogTap.h"
 #include "Logger.h"
 #include "TestSysroot.h"
 #include "UiproBluetooth_Desktop.h"
@@ -18,43 +19,6 @@
 #include <unistd.h>
 
 namespace {
-
-// Every message of the categories the link writes to, in order.
-class LogTap
-{
-public:
-    LogTap()
-    {
-        s_self = this;
-        m_previous = qInstallMessageHandler(&LogTap::handler);
-    }
-    ~LogTap()
-    {
-        qInstallMessageHandler(m_previous);
-        s_self = nullptr;
-    }
-    int count(const QString &category, const QString &part) const
-    {
-        QMutexLocker lock(&m_mutex);
-        int n = 0;
-        for (const auto &line : m_lines)
-            n += line.first == category && line.second.contains(part);
-        return n;
-    }
-
-private:
-    static void handler(QtMsgType, const QMessageLogContext &ctx, const QString &msg)
-    {
-        if (LogTap *self = s_self) {
-            QMutexLocker lock(&self->m_mutex);
-            self->m_lines.append({QString::fromLatin1(ctx.category ? ctx.category : ""), msg});
-        }
-    }
-    QtMessageHandler m_previous = nullptr;
-    mutable QMutex m_mutex;
-    QList<QPair<QString, QString>> m_lines;
-    static inline LogTap *s_self = nullptr;
-};
 
 // The phone: a pty master whose slave is linked as the sysroot's /dev/rfcomm0.
 class Phone

@@ -5,8 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutex>
 #include <atomic>
+#include <mutex>
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
@@ -85,13 +85,13 @@ public:
     }
     QStringList lines() const
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         return m_lines;
     }
     bool contains(const QString &line) const { return lines().contains(line); }
     void clear()
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         m_lines.clear();
     }
 
@@ -100,7 +100,7 @@ private:
     {
         CategoryCapture *self = s_current.load();
         if (self && ctx.category && qstrcmp(ctx.category, self->m_category) == 0) {
-            QMutexLocker lock(&self->m_mutex);
+            std::lock_guard<std::mutex> lock(self->m_mutex);
             self->m_lines.append(msg);
             return;
         }
@@ -109,7 +109,7 @@ private:
     }
     const char *m_category;
     QtMessageHandler m_previous = nullptr;
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex; // not QMutex: ThreadSanitizer sees this one
     QStringList m_lines;
     static inline std::atomic<CategoryCapture *> s_current{nullptr};
 };

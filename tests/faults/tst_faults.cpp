@@ -3,6 +3,7 @@
 // disk gone during a listing, /dev/rfcomm0 vanishing under its reader and a
 // companion service that accepts the connection and never answers.
 #include "HttpsTestServer.h"
+#include "LogTap.h"
 #include "Logger.h"
 #include "Mp4File.h"
 #include "SettingsStore.h"
@@ -35,67 +36,6 @@ namespace {
 const char kWriterArg[] = "--settings-writer";
 // Set in main() before any thread exists (unshare refuses a threaded process).
 bool g_privateMounts = false;
-
-// Every message of every category; `hook` sees each one as it is logged, on
-// the thread that logs it.
-class LogTap
-{
-public:
-    using Hook = std::function<void(const QString &category, const QString &text)>;
-    LogTap()
-    {
-        s_self = this;
-        m_previous = qInstallMessageHandler(&LogTap::handler);
-    }
-    ~LogTap()
-    {
-        qInstallMessageHandler(m_previous);
-        s_self = nullptr;
-    }
-    void setHook(Hook hook)
-    {
-        QMutexLocker lock(&m_mutex);
-        m_hook = std::move(hook);
-    }
-    int count(const QString &category, const QString &part) const
-    {
-        QMutexLocker lock(&m_mutex);
-        int n = 0;
-        for (const auto &line : m_lines)
-            n += line.first == category && line.second.contains(part);
-        return n;
-    }
-    QString all() const
-    {
-        QMutexLocker lock(&m_mutex);
-        QString out;
-        for (const auto &line : m_lines)
-            out += line.first + ": " + line.second + '\n';
-        return out;
-    }
-
-private:
-    static void handler(QtMsgType, const QMessageLogContext &ctx, const QString &msg)
-    {
-        LogTap *self = s_self;
-        if (!self)
-            return;
-        const QString category = QString::fromLatin1(ctx.category ? ctx.category : "");
-        Hook hook;
-        {
-            QMutexLocker lock(&self->m_mutex);
-            self->m_lines.append({category, msg});
-            hook = self->m_hook;
-        }
-        if (hook)
-            hook(category, msg);
-    }
-    QtMessageHandler m_previous = nullptr;
-    mutable QMutex m_mutex;
-    QList<QPair<QString, QString>> m_lines;
-    Hook m_hook;
-    static inline LogTap *s_self = nullptr;
-};
 
 // Two complete sets of the settings that differ in every key.
 QJsonObject valueSet(int which)

@@ -12,6 +12,7 @@
 
 #include <QElapsedTimer>
 #include <QMutex>
+#include <mutex>
 #include <QUdpSocket>
 #include <QtTest>
 
@@ -59,7 +60,7 @@ public:
     }
     QStringList lines(const char *category = "cs.log") const
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         QStringList out;
         for (const auto &m : m_messages)
             if (m.first == QLatin1String(category))
@@ -70,7 +71,7 @@ public:
     int count(const QString &text, const char *category = "cs.log") const { return lines(category).count(text); }
     void clear()
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         m_messages.clear();
     }
 
@@ -82,7 +83,7 @@ private:
             return;
         }
         {
-            QMutexLocker lock(&self->m_mutex);
+            std::lock_guard<std::mutex> lock(self->m_mutex);
             self->m_messages.append({QString::fromLatin1(ctx.category ? ctx.category : "default"), msg});
         }
         // Test failures and warnings stay visible.
@@ -90,7 +91,7 @@ private:
             self->m_previous(type, ctx, msg);
     }
     QtMessageHandler m_previous = nullptr;
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex; // not QMutex: ThreadSanitizer sees this one
     QList<QPair<QString, QString>> m_messages;
     static inline std::atomic<MessageCapture *> s_current{nullptr};
 };
@@ -103,7 +104,7 @@ public:
     {
         m_conn = QObject::connect(worker, &biz_CMDSWork::signalSendReceiveMessage, worker,
                                   [this](const model_Protocoldata &rec) {
-                                      QMutexLocker lock(&m_mutex);
+                                      std::lock_guard<std::mutex> lock(m_mutex);
                                       m_records.append(rec);
                                   },
                                   Qt::DirectConnection);
@@ -111,14 +112,14 @@ public:
     ~ReportTap() { QObject::disconnect(m_conn); }
     QList<model_Protocoldata> records() const
     {
-        QMutexLocker lock(&m_mutex);
+        std::lock_guard<std::mutex> lock(m_mutex);
         return m_records;
     }
     int size() const { return records().size(); }
 
 private:
     QMetaObject::Connection m_conn;
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex; // not QMutex: ThreadSanitizer sees this one
     QList<model_Protocoldata> m_records;
 };
 
