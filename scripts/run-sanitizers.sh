@@ -26,6 +26,8 @@ esac
 "$top/scripts/install-deps.sh"
 launcher=""
 command -v ccache >/dev/null 2>&1 && launcher="-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
+# A fresh clone elsewhere still hits the cache: paths are hashed relative to the tree.
+export CCACHE_BASEDIR="$top" CCACHE_NOHASHDIR=1
 cmake -S "$top" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo $option -DCS_BUILD_BENCHMARKS=OFF $launcher >/dev/null
 cmake --build "$build" -j"${CS_JOBS:-2}"
 if [ -n "$select" ]; then
