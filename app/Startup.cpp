@@ -22,6 +22,8 @@
 #include <QTimer>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFontDatabase>
+#include <QThreadPool>
 
 #include <atomic>
 #include <cstdio>
@@ -41,6 +43,22 @@ void pinCurrentThread(int cpu)
     CPU_SET(cpu, &set);
     // A board or desktop without that core simply keeps the old mask.
     (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
+}
+
+void warmFontDatabase()
+{
+    QThreadPool::globalInstance()->start([] {
+        // The pool thread inherited the main thread's single core.
+        cpu_set_t any;
+        CPU_ZERO(&any);
+        const long cores = sysconf(_SC_NPROCESSORS_ONLN);
+        for (long i = 0; i < cores && i < CPU_SETSIZE; ++i)
+            CPU_SET(int(i), &any);
+        (void)pthread_setaffinity_np(pthread_self(), sizeof any, &any);
+        // Populating is done under Qt's font database lock; the GUI thread's
+        // first text waits on that lock instead of doing the work itself.
+        (void)QFontDatabase().families();
+    });
 }
 
 void registerQmlTypes()

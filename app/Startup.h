@@ -42,4 +42,10 @@ QVariantMap aboutInfo();
 // selects its input method unless the environment already chose one.
 void selectVirtualKeyboard();
 
+// Builds the font database (fontconfig's configuration and font list) on a
+// pool thread free to run on any core, while the main document loads: the
+// first text of the first frame would otherwise wait for it. Call after the
+// application object exists.
+void warmFontDatabase();
+
 } // namespace Startup

@@ -19,6 +19,7 @@ int main(int argc, char *argv[])
     Startup::pinCurrentThread(2);
     Startup::selectVirtualKeyboard();
     QApplication app(argc, argv);
+    Startup::warmFontDatabase();
 
     Startup::registerQmlTypes();
 
