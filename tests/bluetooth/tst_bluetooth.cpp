@@ -1,6 +1,7 @@
 // The companion link over a pseudo-terminal standing in for /dev/rfcomm0:
 // the test holds the master side and plays the phone.
 #include "LogTap.h"
+#include "PhonePty.h"
 #include "Logger.h"
 #include "TestSysroot.h"
 #include "UiproBluetooth_Desktop.h"
@@ -19,53 +20,6 @@
 #include <unistd.h>
 
 namespace {
-
-// The phone: a pty master whose slave is linked as the sysroot's /dev/rfcomm0.
-class Phone
-{
-public:
-    explicit Phone(const TestSysroot &root)
-    {
-        m_fd = ::posix_openpt(O_RDWR | O_NOCTTY);
-        if (m_fd < 0 || ::grantpt(m_fd) != 0 || ::unlockpt(m_fd) != 0)
-            return;
-        termios t {};
-        ::tcgetattr(m_fd, &t);
-        ::cfmakeraw(&t);
-        ::tcsetattr(m_fd, TCSANOW, &t);
-        const QString link = root.path(QStringLiteral("/dev/rfcomm0"));
-        QFile::remove(link);
-        m_ok = QFile::link(QString::fromLocal8Bit(::ptsname(m_fd)), link);
-    }
-    ~Phone()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    bool isValid() const { return m_ok; }
-    bool send(const QByteArray &bytes) { return ::write(m_fd, bytes.constData(), size_t(bytes.size())) == bytes.size(); }
-    // What the device wrote, collected until `bytes` arrived or timeoutMs passed.
-    QByteArray receive(int bytes, int timeoutMs)
-    {
-        QByteArray got;
-        QElapsedTimer clock;
-        clock.start();
-        while (got.size() < bytes && clock.elapsed() < timeoutMs) {
-            pollfd p {m_fd, POLLIN, 0};
-            if (::poll(&p, 1, 50) > 0 && (p.revents & POLLIN)) {
-                char buf[4096];
-                const ssize_t n = ::read(m_fd, buf, sizeof buf);
-                if (n > 0)
-                    got.append(buf, int(n));
-            }
-        }
-        return got;
-    }
-
-private:
-    int m_fd = -1;
-    bool m_ok = false;
-};
 
 // Threads of this process that run the link's reader.
 int readerThreads()
@@ -136,7 +90,7 @@ void TestBluetooth::reads()
     QFETCH(int, fieldLines);
 
     TestSysroot root;
-    Phone phone(root);
+    Phone phone(root.path(QStringLiteral("/dev/rfcomm0")));
     QVERIFY(phone.isValid());
     LogTap log;
     UiproBluetooth_Desktop link;
@@ -201,7 +155,7 @@ void TestBluetooth::closedWhileReadingIsOff()
 void TestBluetooth::stopEndsReaderAndGetRestartsIt()
 {
     TestSysroot root;
-    Phone phone(root);
+    Phone phone(root.path(QStringLiteral("/dev/rfcomm0")));
     QVERIFY(phone.isValid());
     QTRY_COMPARE_WITH_TIMEOUT(readerThreads(), 0, 3000); // earlier tests' readers have ended
     const int before = 0;
@@ -232,7 +186,7 @@ void TestBluetooth::stopEndsReaderAndGetRestartsIt()
 void TestBluetooth::destroyedWhileWaiting()
 {
     TestSysroot root;
-    Phone phone(root);
+    Phone phone(root.path(QStringLiteral("/dev/rfcomm0")));
     QVERIFY(phone.isValid());
     QTRY_COMPARE_WITH_TIMEOUT(readerThreads(), 0, 3000); // earlier tests' readers have ended
     const int before = 0;
@@ -269,7 +223,7 @@ void TestBluetooth::writes()
     QFETCH(QByteArray, line);
 
     TestSysroot root;
-    Phone phone(root);
+    Phone phone(root.path(QStringLiteral("/dev/rfcomm0")));
     QVERIFY(phone.isValid());
     const QStringList commandsBefore = root.commands();
     {

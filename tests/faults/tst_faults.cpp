@@ -4,6 +4,7 @@
 // companion service that accepts the connection and never answers.
 #include "HttpsTestServer.h"
 #include "LogTap.h"
+#include "PhonePty.h"
 #include "Logger.h"
 #include "Mp4File.h"
 #include "SettingsStore.h"
@@ -76,35 +77,6 @@ int settingsForker()
     }
     return 0;
 }
-
-// The phone: a pty master whose slave is linked at `node`.
-class Phone
-{
-public:
-    explicit Phone(const QString &node)
-    {
-        m_fd = ::posix_openpt(O_RDWR | O_NOCTTY);
-        if (m_fd < 0 || ::grantpt(m_fd) != 0 || ::unlockpt(m_fd) != 0)
-            return;
-        termios t {};
-        ::tcgetattr(m_fd, &t);
-        ::cfmakeraw(&t);
-        ::tcsetattr(m_fd, TCSANOW, &t);
-        QFile::remove(node);
-        m_ok = QFile::link(QString::fromLocal8Bit(::ptsname(m_fd)), node);
-    }
-    ~Phone()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    bool isValid() const { return m_ok; }
-    bool send(const QByteArray &bytes) { return ::write(m_fd, bytes.constData(), size_t(bytes.size())) == bytes.size(); }
-
-private:
-    int m_fd = -1;
-    bool m_ok = false;
-};
 
 // Processor time (clock ticks) the Bluetooth reader thread has used, -1 if none runs.
 qint64 readerTicks()
