@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <functional>
@@ -72,6 +73,11 @@ void saveFailed(const QString &why)
     if (throttle.admit(&held))
         writeLog(QStringLiteral("settings not saved: %1%2")
                      .arg(why, held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+}
+
+bool outsideBmp(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSurrogate(); });
 }
 
 // QSettings' own sync takes a lock file beside the settings; killed at the
@@ -199,10 +205,15 @@ void write(const QJsonObject &data)
             if (!data.contains(name))
                 continue;
             const QJsonValue v = data.value(name);
-            if (k.type == KeyType::Int)
+            if (k.type == KeyType::Int) {
                 s.setValue(settingKey(k.name), v.toInt());
-            else
+            } else if (outsideBmp(v.toString())) {
+                // Qt's INI writer encodes one UTF-16 unit at a time and drops
+                // both halves of a pair: the file would hold another text.
+                saveFailed(QStringLiteral("%1 holds characters beyond U+FFFF; its previous value stays").arg(name));
+            } else {
                 s.setValue(settingKey(k.name), v.toString());
+            }
         }
     });
 }

@@ -15,6 +15,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -84,14 +85,26 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             all.insert(QLatin1String(k.name), QString::fromUtf8(part).remove(QChar(0xfeff)));
     }
     SettingsStore::write(all);
+    // A text beyond U+FFFF is refused (the INI writer would lose it): that
+    // key keeps what the file held.
+    QJsonObject expected = all;
+    for (auto it = all.begin(); it != all.end(); ++it) {
+        const QString text = it.value().toString();
+        if (std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSurrogate(); })) {
+            if (read.contains(it.key()))
+                expected.insert(it.key(), read.value(it.key()));
+            else
+                expected.remove(it.key());
+        }
+    }
     QJsonObject back;
     SettingsStore::read(back);
-    for (auto it = all.begin(); it != all.end(); ++it) {
+    for (auto it = expected.begin(); it != expected.end(); ++it) {
         if (back.value(it.key()) != it.value())
             std::fprintf(stderr, "%s: wrote %s, read %s\n", qPrintable(it.key()),
                          qPrintable(it.value().toVariant().toString()), qPrintable(back.value(it.key()).toVariant().toString()));
     }
-    FUZZ_REQUIRE(back == all);
+    FUZZ_REQUIRE(back == expected);
 
     // A missing file is made from the factory settings.
     QFile::remove(active);
