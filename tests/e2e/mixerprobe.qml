@@ -82,7 +82,8 @@ Item {
                 probe.waited = 0
                 if (probe.step === plan.length) {
                     console.log("PROBE done")
-                    Qt.quit()
+                    running = false
+                    leave.start()
                 }
                 return
             }
@@ -92,4 +93,7 @@ Item {
             }
         }
     }
+    // The last step's command leaves on a thread of its own: give it time
+    // to reach the simulator before the application ends.
+    Timer { id: leave; interval: 1000; onTriggered: Qt.quit() }
 }

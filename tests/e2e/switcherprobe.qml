@@ -93,7 +93,8 @@ Item {
                 probe.waited = 0
                 if (probe.step === plan.length) {
                     console.log("PROBE done")
-                    Qt.quit()
+                    running = false
+                    leave.start()
                 }
                 return
             }
@@ -103,4 +104,7 @@ Item {
             }
         }
     }
+    // The last step's command leaves on a thread of its own: give it time
+    // to reach the simulator before the application ends.
+    Timer { id: leave; interval: 1000; onTriggered: Qt.quit() }
 }
