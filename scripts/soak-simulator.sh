@@ -72,15 +72,7 @@ fail() {
 }
 
 echo "soak: $minutes min, $restarts restarts, one every $((period_ms / 1000)) s, after $((settle_ms / 1000)) s of start-up; logs in $soak_work"
-started=$(soak_now_ms)
-while [ -z "$(frame_after 0)" ]; do
-    if ! soak_app_alive || [ $(( $(soak_now_ms) - started )) -gt 60000 ] || grep -q 'PROBE error' "$log"; then
-        fail "no preview frame within 60 s of the start; the application said:"
-        tail -n 30 "$log" >&2
-        exit 1
-    fi
-    sleep 0.2
-done
+soak_wait_ready '[ -n "$(frame_after 0)" ]' "no preview frame"
 
 soak_sleep_ms "$settle_ms"
 printf '%7s  %15s  %22s  %7s  %4s\n' restart "sim up after ms" "preview back after ms" "RSS MiB" fds

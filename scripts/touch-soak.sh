@@ -133,15 +133,7 @@ awk -v seed="$seed" -v n=$(( minutes * 60 * 10 )) 'BEGIN {
 }' > "$plan"
 
 echo "touch-soak: $minutes min, $orientation, seed $seed; logs in $soak_work"
-started=$(soak_now_ms)
-until grep -q 'PROBE spots-end' "$log"; do
-    if ! soak_app_alive || [ $(( $(soak_now_ms) - started )) -gt 60000 ] || grep -q 'PROBE error' "$log"; then
-        fail "the main screen did not come up within 60 s; the application said:"
-        tail -n 30 "$log" >&2
-        exit 1
-    fi
-    sleep 0.2
-done
+soak_wait_ready "grep -q 'PROBE spots-end' \"\$log\"" "the main screen did not come up"
 
 start=$(soak_now_ms)
 end=$(( start + minutes * 60000 ))

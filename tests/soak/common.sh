@@ -119,6 +119,20 @@ soak_start_app() {
 
 soak_app_alive() { kill -0 "$soak_app" 2> /dev/null; }
 
+# Waits until the shell condition $1 holds. If the application dies, a probe
+# reports an error in $log, or 60 s pass, says $2 with the log's tail and exits.
+soak_wait_ready() {
+    waited_from=$(soak_now_ms)
+    until eval "$1"; do
+        if ! soak_app_alive || [ $(( $(soak_now_ms) - waited_from )) -gt 60000 ] || grep -q 'PROBE error' "$log"; then
+            fail "$2 within 60 s; the application said:"
+            tail -n 30 "$log" >&2
+            exit 1
+        fi
+        sleep 0.2
+    done
+}
+
 # Resident memory of the application in KiB, and its open descriptors.
 soak_rss_kib() { awk '/^VmRSS:/ { print $2 }' "/proc/$soak_app/status" 2> /dev/null; }
 # Descriptors: the fewest of ten looks 100 ms apart, since a child process
