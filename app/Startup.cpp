@@ -45,6 +45,19 @@ void pinCurrentThread(int cpu)
     (void)pthread_setaffinity_np(pthread_self(), sizeof set, &set);
 }
 
+void selectFontConfiguration()
+{
+    if (qEnvironmentVariableIsSet("FONTCONFIG_FILE"))
+        return;
+    const QString program = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath();
+    const QString conf = QFileInfo(program).path() + QStringLiteral("/config/fonts.conf");
+    if (program.isEmpty() || !QFileInfo::exists(conf)
+        || !QFileInfo::exists(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"))
+        || !QFileInfo::exists(QStringLiteral("/usr/share/fonts/truetype/wqy/wqy-microhei.ttc")))
+        return;
+    qputenv("FONTCONFIG_FILE", QFile::encodeName(conf));
+}
+
 void warmFontDatabase()
 {
     QThreadPool::globalInstance()->start([] {

@@ -42,6 +42,13 @@ QVariantMap aboutInfo();
 // selects its input method unless the environment already chose one.
 void selectVirtualKeyboard();
 
+// Points fontconfig at the panel's own font configuration (config/fonts.conf
+// beside the executable: DejaVu Sans and WenQuanYi Micro Hei only) unless
+// FONTCONFIG_FILE is already set or either font is missing. The fonts are
+// part of the software image, like Qt's plugins, so they are looked for on
+// this machine and never under CS_SYSROOT. Call before the application object.
+void selectFontConfiguration();
+
 // Builds the font database (fontconfig's configuration and font list) on a
 // pool thread free to run on any core, while the main document loads: the
 // first text of the first frame would otherwise wait for it. Call after the

@@ -18,6 +18,7 @@ int main(int argc, char *argv[])
     Startup::markProcessStart();
     Startup::pinCurrentThread(2);
     Startup::selectVirtualKeyboard();
+    Startup::selectFontConfiguration();
     QApplication app(argc, argv);
     Startup::warmFontDatabase();
 

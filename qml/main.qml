@@ -18,27 +18,23 @@ Window {
     UiprocManage { id: manage }
     LiveStore { id: live; manage: manage }
     SystemStore { id: system; manage: manage; live: live; about: typeof csAbout !== "undefined" ? csAbout : ({}) }
-    // The board's store is made with the device start, after the first frame.
+    // The other stores are made with the device start, after the first
+    // frame; their documents are not even loaded before it.
     property var board: null
-    Component { id: boardStore; BoardStore {} }
-    // The companion link's store, made with the device start like the board's.
     property var companion: null
-    Component { id: companionStore; CompanionStore {} }
-    // The NDI, camera and scope stores, made with the device start too.
     property var ndi: null
-    Component { id: ndiStore; NdiStore {} }
     property var camera: null
-    Component { id: cameraStore; CameraStore {} }
     property var scopes: null
-    Component { id: scopeStore; ScopeStore {} }
-    // The switcher pages' store (formats, PIP, audio), made with the device start too.
-    property var switcher: null
-    Component { id: switcherStore; SwitcherStore {} }
-    // The streaming and USB disk stores, made with the device start too.
+    property var switcher: null     // formats, PIP, audio
     property var stream: null
-    Component { id: streamStore; StreamStore {} }
-    property var media: null
-    Component { id: mediaStore; MediaStore {} }
+    property var media: null        // USB disk, recordings, upgrade
+    function makeStore(file, properties) {
+        var component = Qt.createComponent("Public/" + file)
+        var store = component.status === Component.Ready ? component.createObject(window, properties) : null
+        if (!store)
+            console.error("store " + file + " not made: " + component.errorString())
+        return store
+    }
     // A start the disk refused, from wherever it was asked, is explained on
     // the record page; the bridge firmware step after an upgrade reports on
     // the upgrade page.
@@ -130,19 +126,19 @@ Window {
         manage.uiproNetwork.initNetwork()
         manage.uiproNetwork.getIpAddress(0)
         manage.uiproBluetooth.getBlueData()
-        board = boardStore.createObject(window, { manage: manage })
+        board = makeStore("BoardStore.qml", { manage: manage })
         board.start(settings)
-        stream = streamStore.createObject(window, { manage: manage, live: live })
+        stream = makeStore("StreamStore.qml", { manage: manage, live: live })
         stream.loadSettings(settings)
-        media = mediaStore.createObject(window, { manage: manage, live: live, board: board })
+        media = makeStore("MediaStore.qml", { manage: manage, live: live, board: board })
         media.currentVersion = Qt.binding(function () { return system.about.version || "" })
-        companion = companionStore.createObject(window, { manage: manage, live: live, stream: stream })
+        companion = makeStore("CompanionStore.qml", { manage: manage, live: live, stream: stream })
         companion.start(settings)
-        ndi = ndiStore.createObject(window, { manage: manage })
-        camera = cameraStore.createObject(window, { manage: manage })
-        scopes = scopeStore.createObject(window, { manage: manage })
+        ndi = makeStore("NdiStore.qml", { manage: manage })
+        camera = makeStore("CameraStore.qml", { manage: manage })
+        scopes = makeStore("ScopeStore.qml", { manage: manage })
         scopes.start(settings)
-        switcher = switcherStore.createObject(window, { manage: manage, live: live })
+        switcher = makeStore("SwitcherStore.qml", { manage: manage, live: live })
         switcher.start(settings)
         system.requestLibraryInfo()
         manage.uiproc.initFinished()

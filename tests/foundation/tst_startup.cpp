@@ -33,6 +33,9 @@ private slots:
         QTest::addColumn<QString>("firstLogLine");   // "" = the log is not looked at
         const QByteArray probe = "import QtQuick 2.15\nItem { Component.onCompleted: console.log('watch=' + isWatchStart + ' image=' + (typeof CodeImage)) }\n";
         QTest::newRow("watch argument reaches QML") << probe << "present" << QStringList{"---errors =  ()", "watch=true image=object"} << "";
+        // Fonts come from the panel's own configuration: DejaVu Sans and WenQuanYi Micro Hei (and Qt's generic names) only.
+        const QByteArray fonts = "import QtQuick 2.15\nItem { Component.onCompleted: console.log('other fonts=' + Qt.fontFamilies().filter(function (f) { return !/^(DejaVu|WenQuanYi|Monospace$|Sans Serif$|Serif$)/.test(f) }).join(',')) }\n";
+        QTest::newRow("own font configuration") << fonts << "present" << QStringList{"---errors =  ()", "other fonts=\n"} << "";
         QTest::newRow("broken document keeps running") << QByteArray("import QtQuick 2.15\nItem { width: }\n") << "present" << QStringList{"---errors =  (", "doc.qml:2"} << "";
         QTest::newRow("main document") << QByteArray() << "present" << QStringList{"---errors =  ()"} << "qml start";
         QTest::newRow("no settings file") << QByteArray() << "none" << QStringList{"---errors =  ()"} << "CS_Config.ini missing: factory settings restored";
