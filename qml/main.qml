@@ -58,7 +58,11 @@ Window {
     MainView {
         id: mainView
         objectName: "mainView"
-        anchors.fill: parent
+        // Sized by value rather than anchors: anchors take effect only once
+        // the whole view is complete, after every text in it has been laid
+        // out once at a wrong width.
+        width: window.width
+        height: window.height
         store: live
         pageStores: ({ live: live, system: system, board: board, media: media, stream: stream, companion: companion, ndi: ndi, camera: camera, scopes: scopes, switcher: switcher })
         upgrading: media ? media.upgrading : false

@@ -30,7 +30,7 @@ Rectangle {
     StatusBar {
         id: statusBar
         objectName: "statusBar"
-        anchors { left: parent.left; right: parent.right; top: parent.top }
+        width: view.width
         streams: view.store.streams
         recording: view.store.recording
         recordTime: view.recordTime
@@ -49,7 +49,11 @@ Rectangle {
 
     Item {
         id: body
-        anchors { left: parent.left; right: parent.right; top: statusBar.bottom; bottom: parent.bottom; margins: Style.gap }
+        // By value, not anchors, so the texts inside are laid out once at their real widths.
+        x: Style.gap
+        y: statusBar.height + Style.gap
+        width: view.width - 2 * Style.gap
+        height: view.height - y - Style.gap
 
         // Landscape: picture and inputs on the left two thirds, the meters
         // beside the picture, the live actions and the menu on the right;
