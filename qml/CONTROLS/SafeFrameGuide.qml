@@ -26,30 +26,37 @@ Item {
             font.pixelSize: Style.fontTiny
         }
     }
-    Outline {
-        objectName: "safeAction"
-        visible: guide.type === 1
-        width: guide.width * 0.93; height: guide.height * 0.93
-        caption: qsTr("Action safe")
-    }
-    Outline {
-        objectName: "safeTitle"
-        visible: guide.type === 1
-        width: guide.width * 0.90; height: guide.height * 0.90
-        caption: ""
-        Text {
-            anchors { right: parent.right; bottom: parent.bottom; margins: 4 }
-            text: qsTr("Title safe")
-            color: "#ccffffff"
-            style: Text.Outline
-            styleColor: "black"
-            font.pixelSize: Style.fontTiny
+    // Made while a guide is shown: most shows never use one.
+    Loader {
+        anchors.fill: parent
+        active: guide.visible
+        sourceComponent: Item {
+            Outline {
+                objectName: "safeAction"
+                visible: guide.type === 1
+                width: guide.width * 0.93; height: guide.height * 0.93
+                caption: qsTr("Action safe")
+            }
+            Outline {
+                objectName: "safeTitle"
+                visible: guide.type === 1
+                width: guide.width * 0.90; height: guide.height * 0.90
+                caption: ""
+                Text {
+                    anchors { right: parent.right; bottom: parent.bottom; margins: 4 }
+                    text: qsTr("Title safe")
+                    color: "#ccffffff"
+                    style: Text.Outline
+                    styleColor: "black"
+                    font.pixelSize: Style.fontTiny
+                }
+            }
+            Outline {
+                objectName: "safeCut"
+                visible: guide.type === 2 || guide.type === 3
+                width: guide.cutWidth; height: guide.height
+                caption: guide.type === 2 ? "4:3" : "9:16"
+            }
         }
-    }
-    Outline {
-        objectName: "safeCut"
-        visible: guide.type === 2 || guide.type === 3
-        width: guide.cutWidth; height: guide.height
-        caption: guide.type === 2 ? "4:3" : "9:16"
     }
 }

@@ -151,7 +151,8 @@ Item {
             var guide = findChild(panel, "safeFrames")
             compare(guide.visible, data.type !== 0)
             ;["safeAction", "safeTitle", "safeCut"].forEach(function (n) {
-                compare(findChild(panel, n).visible && guide.visible, data.shown.indexOf(n) >= 0, n)
+                var outline = findChild(panel, n) // made only while a guide is shown
+                compare(outline !== null && outline.visible && guide.visible, data.shown.indexOf(n) >= 0, n)
             })
             if (data.width)
                 fuzzyCompare(findChild(panel, "safeCut").width, guide.height * data.width, 1)
