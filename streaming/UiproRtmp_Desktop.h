@@ -31,8 +31,9 @@ public:
     static constexpr int kMaxUrlChars = 4096;
     // A companion-service reply is a small JSON object.
     static constexpr qint64 kMaxReplyBytes = 1024 * 1024;
-    // A request the service never answers ends after this, so heartbeats
-    // against a hung service cannot pile up.
+    // A request ends after this long without a byte from the service, and
+    // after twice this long whatever comes, so heartbeats against a hung or
+    // trickling service cannot pile up.
     static constexpr int kRequestTimeoutMs = 30000;
 
     static QString eventFilePath();

@@ -13,6 +13,7 @@
 #include <QNetworkRequest>
 #include <QSslConfiguration>
 #include <QSslSocket>
+#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -83,6 +84,20 @@ void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QS
                          .arg(reply->url().toString(), QString::number(kMaxReplyBytes),
                               held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
         reply->abort(); // finished follows with an error: nothing emitted
+    });
+    // Qt's transfer time-out only measures silence: a service sending a
+    // byte now and then would hold the request open for ever.
+    const int deadlineMs = 2 * m_requestTimeoutMs;
+    QTimer::singleShot(deadlineMs, reply, [reply, deadlineMs] {
+        if (reply->isFinished())
+            return;
+        static LineThrottle throttle;
+        int held = 0;
+        if (throttle.admit(&held))
+            writeLog(QStringLiteral("companion service reply from %1 not complete after %2 ms, dropped%3")
+                         .arg(reply->url().toString(), QString::number(deadlineMs),
+                              held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+        reply->abort();
     });
 }
 

@@ -23,6 +23,7 @@ public:
         int status = 200;
         QByteArray body;
         int delayMs = 0;
+        int trickleMs = 0;   // > 0: after the head, one byte of a never-ending body this often
     };
 
     QMap<QByteArray, Answer> answers;   // by path; a path not listed gets an empty 200
@@ -89,6 +90,15 @@ protected:
             const QByteArray path = pathOf(*buf);
             const Answer a = answers.value(path);
             buf->clear();
+            if (a.trickleMs > 0) {
+                s->write("HTTP/1.1 200 X\r\nContent-Type: application/json\r\nContent-Length: 1000000\r\n\r\n");
+                auto *drip = new QTimer(s);
+                connect(drip, &QTimer::timeout, s, [s] { s->write(" "); });
+                drip->start(a.trickleMs);
+                if (onRequest)
+                    onRequest(path);
+                return;
+            }
             QTimer::singleShot(a.delayMs, s, [s, a] {
                 s->write("HTTP/1.1 " + QByteArray::number(a.status) + " X\r\nContent-Type: application/json\r\nContent-Length: "
                          + QByteArray::number(a.body.size()) + "\r\nConnection: close\r\n\r\n" + a.body);
