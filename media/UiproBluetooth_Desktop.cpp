@@ -42,14 +42,6 @@ void say(const QByteArray &text)
     std::fflush(stdout);
 }
 
-// One log line a second per kind of trouble, with the count held back.
-void logThrottled(LineThrottle &throttle, const QString &text)
-{
-    int held = 0;
-    if (throttle.admit(&held))
-        writeLog(text + (held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
-}
-
 // The link carries messages, not a terminal session: in the default
 // terminal mode the line discipline would echo the app's text back to it
 // and hold back a message that has no real line end.
@@ -159,7 +151,7 @@ void handleText(BluetoothReaderState &s, const QByteArray &text, const QString &
     if (m.destination) {
         s.post([m](UiproBluetooth_Desktop *o) { emit o->pushReadRtmp(m.url, m.token, m.data, m.vertical); });
     } else if (m.fields > 0) {
-        logThrottled(fieldThrottle(), QStringLiteral("bluetooth destination with %1 of 4 fields ignored: %2")
+        writeLogThrottled(fieldThrottle(), QStringLiteral("bluetooth destination with %1 of 4 fields ignored: %2")
                                           .arg(m.fields)
                                           .arg(LineThrottle::shown(QString::fromUtf8(text), 120)));
     }
@@ -194,7 +186,7 @@ void readerLoop(std::shared_ptr<BluetoothReaderState> state)
         // Non-blocking open: a serial node may otherwise wait for a carrier.
         const int fd = ::open(node.constData(), O_RDONLY | O_TRUNC | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
         if (fd < 0) {
-            logThrottled(openThrottle(), QStringLiteral("bluetooth: cannot open %1: %2")
+            writeLogThrottled(openThrottle(), QStringLiteral("bluetooth: cannot open %1: %2")
                                              .arg(QString::fromLocal8Bit(node), QString::fromLocal8Bit(std::strerror(errno))));
             s.pause(100); // a node that keeps refusing must not spin a core
             continue;
@@ -313,7 +305,7 @@ void UiproBluetooth_Desktop::writeDataToDev(QString Data)
     qCDebug(lcBluetooth).noquote() << LineThrottle::shown(command, 200) << "writeData";
     m_writeFlag = true;
     if (m_writeBuffer.size() > kMaxWriteBytes) {
-        logThrottled(writeThrottle(), QStringLiteral("bluetooth: a text of %1 bytes not sent (at most %2)")
+        writeLogThrottled(writeThrottle(), QStringLiteral("bluetooth: a text of %1 bytes not sent (at most %2)")
                                           .arg(m_writeBuffer.size())
                                           .arg(kMaxWriteBytes));
         return;
@@ -325,7 +317,7 @@ void UiproBluetooth_Desktop::writeDataToDev(QString Data)
     m_writer.start([line, node] {
         const int fd = ::open(node.constData(), O_WRONLY | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
         if (fd < 0) {
-            logThrottled(writeThrottle(), QStringLiteral("bluetooth: cannot open %1 to write: %2")
+            writeLogThrottled(writeThrottle(), QStringLiteral("bluetooth: cannot open %1 to write: %2")
                                               .arg(QString::fromLocal8Bit(node), QString::fromLocal8Bit(std::strerror(errno))));
             return;
         }
@@ -335,7 +327,7 @@ void UiproBluetooth_Desktop::writeDataToDev(QString Data)
             if (n < 0 && errno == EINTR)
                 continue;
             if (n <= 0) {
-                logThrottled(writeThrottle(), QStringLiteral("bluetooth: line cut after %1 of %2 bytes: %3")
+                writeLogThrottled(writeThrottle(), QStringLiteral("bluetooth: line cut after %1 of %2 bytes: %3")
                                                   .arg(done)
                                                   .arg(line.size())
                                                   .arg(QString::fromLocal8Bit(std::strerror(errno))));

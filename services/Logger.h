@@ -3,6 +3,8 @@
 // /CSLog/, at most eleven old ones kept. Off unless the settings switch
 // openLog is non-zero when UiProc starts. One run's file stops growing at
 // kFileCap bytes (plus one line saying so); later lines reach the console only.
+#include "LineThrottle.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QList>
@@ -62,3 +64,12 @@ private:
 
 // Shorthand used across the code base for the specified log lines.
 inline void writeLog(const QString &text) { Logger::instance().write(text); }
+
+// A line about outside input, which may come in floods: written at most once
+// a second per throttle, with the count of lines held back since the last.
+inline void writeLogThrottled(LineThrottle &throttle, const QString &text)
+{
+    int held = 0;
+    if (throttle.admit(&held))
+        writeLog(text + (held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+}

@@ -69,10 +69,7 @@ const QString kWorkPrefix = QStringLiteral(".CS_Config.ini.new-");
 void saveFailed(const QString &why)
 {
     static LineThrottle throttle;
-    int held = 0;
-    if (throttle.admit(&held))
-        writeLog(QStringLiteral("settings not saved: %1%2")
-                     .arg(why, held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+    writeLogThrottled(throttle, QStringLiteral("settings not saved: ") + why);
 }
 
 bool outsideBmp(const QString &text)

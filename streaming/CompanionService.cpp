@@ -32,11 +32,8 @@ QString companionDomain()
     if (usable(value))
         return value;
     static LineThrottle throttle;
-    int held = 0;
-    if (throttle.admit(&held))
-        writeLog(QStringLiteral("CS_COMPANION_DOMAIN \"%1\" is not a host name fragment, using %2%3")
-                     .arg(LineThrottle::shown(value, 64), QLatin1String(kDefaultDomain),
-                          held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+    writeLogThrottled(throttle, QStringLiteral("CS_COMPANION_DOMAIN \"%1\" is not a host name fragment, using %2")
+                                    .arg(LineThrottle::shown(value, 64), QLatin1String(kDefaultDomain)));
     return QLatin1String(kDefaultDomain);
 }
 

@@ -46,10 +46,8 @@ void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QS
     // headers of the sender's choosing.
     if (hasControl(Token)) {
         static LineThrottle throttle;
-        int held = 0;
-        if (throttle.admit(&held))
-            writeLog(QStringLiteral("companion request to %1 not sent: the token holds control characters%2")
-                         .arg(shownValue(localUrl), held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+        writeLogThrottled(throttle, QStringLiteral("companion request to %1 not sent: the token holds control characters")
+                                        .arg(shownValue(localUrl)));
         return;
     }
 
@@ -78,11 +76,8 @@ void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QS
         if (received <= kMaxReplyBytes)
             return;
         static LineThrottle throttle;
-        int held = 0;
-        if (throttle.admit(&held))
-            writeLog(QStringLiteral("companion service reply from %1 over %2 bytes, dropped%3")
-                         .arg(reply->url().toString(), QString::number(kMaxReplyBytes),
-                              held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+        writeLogThrottled(throttle, QStringLiteral("companion service reply from %1 over %2 bytes, dropped")
+                                        .arg(reply->url().toString(), QString::number(kMaxReplyBytes)));
         reply->abort(); // finished follows with an error: nothing emitted
     });
     // Qt's transfer time-out only measures silence: a service sending a
@@ -92,11 +87,8 @@ void UiproRtmp_Desktop::httpRequestPostByUrl(QString localUrl, QString Token, QS
         if (reply->isFinished())
             return;
         static LineThrottle throttle;
-        int held = 0;
-        if (throttle.admit(&held))
-            writeLog(QStringLiteral("companion service reply from %1 not complete after %2 ms, dropped%3")
-                         .arg(reply->url().toString(), QString::number(deadlineMs),
-                              held ? QStringLiteral(" (%1 more since the last such line)").arg(held) : QString()));
+        writeLogThrottled(throttle, QStringLiteral("companion service reply from %1 not complete after %2 ms, dropped")
+                                        .arg(reply->url().toString(), QString::number(deadlineMs)));
         reply->abort();
     });
 }
