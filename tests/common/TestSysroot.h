@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <atomic>
-#include <mutex>
 #include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
@@ -65,51 +63,4 @@ private:
     QTemporaryDir m_dir;
     QByteArray m_previous;
     bool m_ok = false;
-};
-
-// Collects the text of every message of one logging category (e.g. "cs.log")
-// while it lives; the exact texts the product writes to its log go there.
-class CategoryCapture
-{
-public:
-    explicit CategoryCapture(const char *category = "cs.log")
-        : m_category(category)
-    {
-        s_current = this;
-        m_previous = qInstallMessageHandler(&CategoryCapture::handler);
-    }
-    ~CategoryCapture()
-    {
-        qInstallMessageHandler(m_previous);
-        s_current = nullptr;
-    }
-    QStringList lines() const
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        return m_lines;
-    }
-    bool contains(const QString &line) const { return lines().contains(line); }
-    void clear()
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_lines.clear();
-    }
-
-private:
-    static void handler(QtMsgType type, const QMessageLogContext &ctx, const QString &msg)
-    {
-        CategoryCapture *self = s_current.load();
-        if (self && ctx.category && qstrcmp(ctx.category, self->m_category) == 0) {
-            std::lock_guard<std::mutex> lock(self->m_mutex);
-            self->m_lines.append(msg);
-            return;
-        }
-        if (self && self->m_previous)
-            self->m_previous(type, ctx, msg);
-    }
-    const char *m_category;
-    QtMessageHandler m_previous = nullptr;
-    mutable std::mutex m_mutex; // not QMutex: ThreadSanitizer sees this one
-    QStringList m_lines;
-    static inline std::atomic<CategoryCapture *> s_current{nullptr};
 };

@@ -2,6 +2,7 @@
 // device everything is used exactly as written.
 #include "Platform.h"
 #include "Shell.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 
 #include <QtTest>

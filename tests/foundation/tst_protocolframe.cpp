@@ -1,6 +1,7 @@
 // Frames built and parsed byte for byte, including every rejection and its log line.
 #include "Logger.h"
 #include "ProtocolFrame.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 
 #include <QtTest>

@@ -4,6 +4,7 @@
 #include "DiskSync.h"
 #include "Logger.h"
 #include "SettingsStore.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiProc.h"
 

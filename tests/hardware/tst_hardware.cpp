@@ -3,6 +3,7 @@
 // shift under a fixed clock, and slots that must return before their work.
 #include "Logger.h"
 #include "Shell.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiProc.h"
 

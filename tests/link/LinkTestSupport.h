@@ -3,6 +3,7 @@
 // service on a private port, a UiProc whose ports come from the
 // environment, and captures of log lines and of the records the receive
 // loop hands over.
+#include "LogTap.h"
 #include "Logger.h"
 #include "ReportFrame.h"
 #include "ProtocolFrame.h"
@@ -42,59 +43,6 @@ inline int sharedReportQueueSize()
     QMutexLocker r(&biz_CMDSWork::receiveHexCmdlock);
     return biz_CMDSWork::receivequeueHexCmd.size();
 }
-
-
-// Every message of every category, kept with its category name.
-class MessageCapture
-{
-public:
-    MessageCapture()
-    {
-        s_current = this;
-        m_previous = qInstallMessageHandler(&MessageCapture::handler);
-    }
-    ~MessageCapture()
-    {
-        qInstallMessageHandler(m_previous);
-        s_current = nullptr;
-    }
-    QStringList lines(const char *category = "cs.log") const
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        QStringList out;
-        for (const auto &m : m_messages)
-            if (m.first == QLatin1String(category))
-                out << m.second;
-        return out;
-    }
-    bool contains(const QString &text, const char *category = "cs.log") const { return lines(category).contains(text); }
-    int count(const QString &text, const char *category = "cs.log") const { return lines(category).count(text); }
-    void clear()
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_messages.clear();
-    }
-
-private:
-    static void handler(QtMsgType type, const QMessageLogContext &ctx, const QString &msg)
-    {
-        MessageCapture *self = s_current.load();
-        if (!self) {
-            return;
-        }
-        {
-            std::lock_guard<std::mutex> lock(self->m_mutex);
-            self->m_messages.append({QString::fromLatin1(ctx.category ? ctx.category : "default"), msg});
-        }
-        // Test failures and warnings stay visible.
-        if (type >= QtWarningMsg && self->m_previous)
-            self->m_previous(type, ctx, msg);
-    }
-    QtMessageHandler m_previous = nullptr;
-    mutable std::mutex m_mutex; // not QMutex: ThreadSanitizer sees this one
-    QList<QPair<QString, QString>> m_messages;
-    static inline std::atomic<MessageCapture *> s_current{nullptr};
-};
 
 // Records every report a worker's receive loop hands over, from that loop's thread.
 class ReportTap

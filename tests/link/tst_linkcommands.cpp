@@ -177,7 +177,7 @@ class TstLinkCommands : public QObject
     Q_OBJECT
 private:
     std::unique_ptr<LinkFixture> fx;
-    std::unique_ptr<MessageCapture> logs;
+    std::unique_ptr<LogTap> logs;
 
     // Invokes, then checks the datagrams at the peer: exactly these, in order, nothing more.
     void expectDatagrams(const QByteArray &method, const QVariantList &args, const QList<QByteArray> &expected)
@@ -197,7 +197,7 @@ private:
 private slots:
     void init()
     {
-        logs.reset(new MessageCapture);
+        logs.reset(new LogTap);
         fx.reset(new LinkFixture);
     }
     void cleanup()
@@ -229,7 +229,7 @@ private slots:
         QFETCH(QString, log);
         expectDatagrams(method, args, expected);
         if (!log.isEmpty())
-            QVERIFY2(logs->contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
+            QVERIFY2(logs->lines().contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
     }
 
     void inputSignalFormat_data()
@@ -268,12 +268,12 @@ private slots:
         QFETCH(QString, log);
         setConfigValue(fx->sysroot, QStringLiteral("curInputIndex"), curInputIndex);
         QVERIFY(fx->proc->connectSetInputSignalFormat(list));
-        QVERIFY(logs->contains(QStringLiteral("UiProc::connectSetInputSignalFormat--------------   go into")));
+        QVERIFY(logs->lines().contains(QStringLiteral("UiProc::connectSetInputSignalFormat--------------   go into")));
         if (expected.isEmpty())
             QVERIFY(fx->drainCommands(200).isEmpty());
         else
             QCOMPARE(fx->nextCommand().toHex(), expected.toHex());
-        QVERIFY2(logs->contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
+        QVERIFY2(logs->lines().contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
     }
 
     // Oversized or odd text from the screens: bounded blocks, log lines, no crash.
@@ -323,7 +323,7 @@ private slots:
             sum = uchar(sum + uchar(got[19 + i]));
         if (method != "connectSNDIGroupName")
             QCOMPARE(uchar(got.back()), sum);
-        QVERIFY2(logs->contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
+        QVERIFY2(logs->lines().contains(log), qPrintable(logs->lines().join(QLatin1Char('\n'))));
     }
 
 };

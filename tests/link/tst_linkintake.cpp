@@ -95,7 +95,7 @@ private slots:
         QFETCH(QStringList, records);
         QFETCH(QString, log);
         TestSysroot sysroot;
-        MessageCapture logs;
+        LogTap logs;
         BlockCollector collector;
         QStringList got;
         for (const Step &s : steps) {
@@ -105,13 +105,13 @@ private slots:
         }
         QCOMPARE(got, records);
         if (!log.isEmpty())
-            QCOMPARE(logs.count(log), 1);
+            QCOMPARE(logs.lines().count(log), 1);
     }
 
     void collectorExpiresOnItsOwn()
     {
         TestSysroot sysroot;
-        MessageCapture logs;
+        LogTap logs;
         BlockCollector collector;
         QCOMPARE(collector.nextDeadline(), qint64(-1));
         QVERIFY(!collector.feed(header(0xB3, 100), {QStringLiteral("127.0.0.1"), 9}, 500));
@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(collector.openBlocks(), 1);
         collector.expire(2500);
         QCOMPARE(collector.openBlocks(), 0);
-        QVERIFY(logs.contains(QStringLiteral("UiProc::readPendingDatagrams data block expired: 40 of 100 bytes after 2000 ms, report dropped")));
+        QVERIFY(logs.lines().contains(QStringLiteral("UiProc::readPendingDatagrams data block expired: 40 of 100 bytes after 2000 ms, report dropped")));
     }
 
     void senders_data()

@@ -37,7 +37,7 @@ class TstLinkTransport : public QObject
     Q_OBJECT
 private:
     std::unique_ptr<LinkFixture> fx;
-    std::unique_ptr<MessageCapture> logs;
+    std::unique_ptr<LogTap> logs;
 
     // Sends a marker report and waits until it is the latest thing handed over.
     bool reportFlows(QSignalSpy &spy, bool toCommandSocket = false)
@@ -56,7 +56,7 @@ private:
 private slots:
     void init()
     {
-        logs.reset(new MessageCapture);
+        logs.reset(new LogTap);
         fx.reset(new LinkFixture);
     }
     void cleanup()
@@ -86,15 +86,15 @@ private slots:
             fx->sendToListener(report);
         QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 1, 3000);
         QCOMPARE(fields(spy.first()), QStringLiteral("0 0 89 a b c d b7|"));
-        QVERIFY(logs->contains(QStringLiteral("UiProc::readPendingDatagrams--------------- data:recv from:127.0.0.1-- udp data:<F0000890A0B0C0DB7>")));
+        QVERIFY(logs->lines().contains(QStringLiteral("UiProc::readPendingDatagrams--------------- data:recv from:127.0.0.1-- udp data:<F0000890A0B0C0DB7>")));
     }
 
     void sendLogLines()
     {
         QVERIFY(fx->proc->connectSetPIP(1, 3));
         QCOMPARE(fx->nextCommand(), QByteArray("<T000068aa01030016>"));
-        QTRY_VERIFY(!logs->lines(QStringLiteral("cs.link").toLatin1()).isEmpty());
-        QVERIFY(logs->contains(QStringLiteral("------------------------- fa song:<T000068aa01030016>")));
+        QTRY_VERIFY(!logs->lines("cs.link").isEmpty());
+        QVERIFY(logs->lines().contains(QStringLiteral("------------------------- fa song:<T000068aa01030016>")));
         const QStringList sent = logs->lines().filter(QRegularExpression(QStringLiteral("^\\d{6}-send toIP:127\\.0\\.0\\.1-- udp data:<T000068aa01030016>$")));
         QCOMPARE(sent.size(), 1);
         const QStringList debug = logs->lines("cs.link");
@@ -111,12 +111,12 @@ private slots:
         // Nothing to broadcast to: nothing sent, nothing logged as sent.
         biz_CMDSWork::enqueueCommand(rec);
         QVERIFY(fx->drainCommands(200).isEmpty());
-        QCOMPARE(logs->count(QStringLiteral("Send Broadcast successful")), 0);
+        QCOMPARE(logs->lines().count(QStringLiteral("Send Broadcast successful")), 0);
         fx->proc->setBroadcastAddresses({QHostAddress::LocalHost, QHostAddress(QStringLiteral("127.0.0.1"))});
         biz_CMDSWork::enqueueCommand(rec);
         QCOMPARE(fx->nextCommand(), QByteArray("<T00006a000000006a>"));
         QCOMPARE(fx->nextCommand(), QByteArray("<T00006a000000006a>"));
-        QCOMPARE(logs->count(QStringLiteral("Send Broadcast successful")), 2);
+        QCOMPARE(logs->lines().count(QStringLiteral("Send Broadcast successful")), 2);
         QVERIFY(logs->lines().filter(QStringLiteral("fa song")).isEmpty()); // unicast lines only for unicast
         QVERIFY(logs->lines("cs.link").isEmpty());
     }

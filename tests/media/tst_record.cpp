@@ -4,6 +4,7 @@
 #include "Logger.h"
 #include "Mp4File.h"
 #include "SimDevice.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiproRecord_Desktop.h"
 

@@ -2,6 +2,7 @@
 // the exact sequences, the settings file, the gateway and address reports,
 // refused addresses, and slots that return while their commands still run.
 #include "Logger.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiprocNetwork.h"
 

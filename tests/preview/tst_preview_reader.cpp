@@ -1,5 +1,6 @@
 // The frame reader against a real producer on private System V keys.
 #include "PreviewTestProducer.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiproGetImageShareData.h"
 #include "UiprocImageShow.h"

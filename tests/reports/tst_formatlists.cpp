@@ -2,6 +2,7 @@
 // among equal weights), NDI source lists with their count check, and
 // bounds on short or over-announced blocks.
 #include "Logger.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "VideoFormatList.h"
 

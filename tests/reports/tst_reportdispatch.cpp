@@ -4,6 +4,7 @@
 #include "Logger.h"
 #include "ProtocolRecord.h"
 #include "SignalRecorder.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiprocVideo_Desktop.h"
 

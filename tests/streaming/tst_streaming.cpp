@@ -2,6 +2,7 @@
 // private sysroot: what lands in CS_event.ini, what the screens are sent.
 #include "Logger.h"
 #include "Startup.h"
+#include "LogTap.h"
 #include "TestSysroot.h"
 #include "UiproRtmp_Desktop.h"
 
